@@ -1,0 +1,155 @@
+// How far are the copy-on-write containers from the standard ones where nothing is shared, and how much do they save
+// where something is? Each row stands beside the standard container doing the same.
+
+#include "cow_List.h"
+#include "cow_Map.h"
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+int Count(benchmark::State const& state) { return static_cast<int>(state.range(0)); }
+
+void SetItems(benchmark::State& state) { state.SetItemsProcessed(state.iterations() * state.range(0)); }
+
+void BM_AppendList(benchmark::State& state)
+{
+  for (auto _ : state) {
+    cow_List<int> list;
+    for (int i = 0; i < Count(state); ++i) list.Append(i);
+    benchmark::DoNotOptimize(list.Last());
+  }
+  SetItems(state);
+}
+
+void BM_AppendVector(benchmark::State& state)
+{
+  for (auto _ : state) {
+    std::vector<int> vector;
+    for (int i = 0; i < Count(state); ++i) vector.push_back(i);
+    benchmark::DoNotOptimize(vector.back());
+  }
+  SetItems(state);
+}
+
+template <class Container>
+void Read(benchmark::State& state, Container const& container)
+{
+  for (auto _ : state) {
+    long long sum = 0;
+    for (int const element : container) sum += element;
+    benchmark::DoNotOptimize(sum);
+  }
+  SetItems(state);
+}
+
+void BM_ReadList(benchmark::State& state)
+{
+  cow_List<int> list;
+  for (int i = 0; i < Count(state); ++i) list.Append(i);
+  Read(state, list);
+}
+
+void BM_ReadVector(benchmark::State& state)
+{
+  std::vector<int> vector;
+  for (int i = 0; i < Count(state); ++i) vector.push_back(i);
+  Read(state, vector);
+}
+
+std::string Name(int i) { return "Interaction-" + std::to_string(i); }
+
+void BM_CopyStringListAndWriteOne(benchmark::State& state)
+{
+  cow_List<std::string> list;
+  for (int i = 0; i < Count(state); ++i) list.Append(Name(i));
+  for (auto _ : state) {
+    cow_List<std::string> copy(list);
+    copy.Put(Count(state) / 2, "changed");
+    benchmark::DoNotOptimize(copy.Last().data());
+  }
+}
+
+void BM_CopyStringVectorAndWriteOne(benchmark::State& state)
+{
+  std::vector<std::string> vector;
+  for (int i = 0; i < Count(state); ++i) vector.push_back(Name(i));
+  for (auto _ : state) {
+    std::vector<std::string> copy(vector);
+    copy[copy.size() / 2] = "changed";
+    benchmark::DoNotOptimize(copy.back().data());
+  }
+}
+
+void Enter(cow_Map<int, int>& map, int key) { map.Insert(key, key); }
+void Enter(std::map<int, int>& map, int key) { map.insert_or_assign(key, key); }
+int LookUp(cow_Map<int, int> const& map, int key) { return map.ConstGet(key); }
+int LookUp(std::map<int, int> const& map, int key) { return map.at(key); }
+
+std::vector<int> ShuffledKeys(benchmark::State const& state)
+{
+  std::vector<int> keys;
+  for (int i = 0; i < Count(state); ++i) keys.push_back(i);
+  std::shuffle(keys.begin(), keys.end(), std::mt19937(1));
+  return keys;
+}
+
+template <class Map>
+void BM_MapInsert(benchmark::State& state)
+{
+  auto const keys = ShuffledKeys(state);
+  for (auto _ : state) {
+    Map map;
+    for (int const key : keys) Enter(map, key);
+    benchmark::DoNotOptimize(&map);
+  }
+  SetItems(state);
+}
+
+template <class Map>
+void BM_MapLookUp(benchmark::State& state)
+{
+  auto const keys = ShuffledKeys(state);
+  Map map;
+  for (int const key : keys) Enter(map, key);
+  for (auto _ : state) {
+    int sum = 0;
+    for (int const key : keys) sum ^= LookUp(map, key);
+    benchmark::DoNotOptimize(sum);
+  }
+  SetItems(state);
+}
+
+template <class Map>
+void BM_MapCopyAndWriteOne(benchmark::State& state)
+{
+  Map map;
+  for (int const key : ShuffledKeys(state)) Enter(map, key);
+  for (auto _ : state) {
+    Map copy(map);
+    Enter(copy, Count(state) / 2);
+    benchmark::DoNotOptimize(&copy);
+  }
+}
+
+BENCHMARK(BM_AppendList)->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(BM_AppendVector)->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(BM_ReadList)->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(BM_ReadVector)->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(BM_CopyStringListAndWriteOne)->Arg(100)->Arg(100'000);
+BENCHMARK(BM_CopyStringVectorAndWriteOne)->Arg(100)->Arg(100'000);
+BENCHMARK(BM_MapInsert<cow_Map<int, int>>)->Arg(100)->Arg(100'000);
+BENCHMARK(BM_MapInsert<std::map<int, int>>)->Arg(100)->Arg(100'000);
+BENCHMARK(BM_MapLookUp<cow_Map<int, int>>)->Arg(100)->Arg(100'000);
+BENCHMARK(BM_MapLookUp<std::map<int, int>>)->Arg(100)->Arg(100'000);
+BENCHMARK(BM_MapCopyAndWriteOne<cow_Map<int, int>>)->Arg(100)->Arg(100'000);
+BENCHMARK(BM_MapCopyAndWriteOne<std::map<int, int>>)->Arg(100)->Arg(100'000);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,802 @@
+#pragma once
+
+#include "mem_Allocation.h"
+
+#include <algorithm>
+#include <bit>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <initializer_list>
+#include <iterator>
+#include <memory>
+#include <new>
+#include <stdexcept>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+/// A block of a cow_List: its own counter, and behind it room for `1 << shift` elements.
+///
+/// Which of them are alive only the lists know that share the block; they all agree.
+template <class T>
+class cow_ListBlock
+{
+ public:
+  static cow_ListBlock* New(int capacity)
+  {
+    if constexpr (alignof(T) > 16) {
+      return ::new (::operator new(Size(capacity), std::align_val_t(alignof(T)))) cow_ListBlock;
+    } else {
+      return ::new (mem_OperatorNewThrow(Size(capacity))) cow_ListBlock;
+    }
+  }
+
+  /// Frees the memory; the elements have been destroyed.
+  static void Free(cow_ListBlock* block, int capacity) noexcept
+  {
+    if constexpr (alignof(T) > 16) ::operator delete(block, std::align_val_t(alignof(T)));
+    else mem_OperatorDelete(block, Size(capacity));
+  }
+
+  T* Elements() noexcept { return reinterpret_cast<T*>(reinterpret_cast<char*>(this) + header); }
+
+  int counter = 1;
+
+ private:
+  static constexpr std::size_t header = std::max(sizeof(int), alignof(T));
+
+  static std::size_t Size(int capacity) noexcept { return header + static_cast<std::size_t>(capacity) * sizeof(T); }
+};
+
+/// Reads the elements of a cow_List in order. Good until the list is changed or gone, as its elements are.
+template <class T>
+class cow_ListConstIterator
+{
+ public:
+  using iterator_category = std::forward_iterator_tag;
+  using value_type = T;
+  using difference_type = std::ptrdiff_t;
+  using pointer = T const*;
+  using reference = T const&;
+
+  cow_ListConstIterator() noexcept = default;
+
+  T const& operator*() const noexcept { return *element_; }
+  T const* operator->() const noexcept { return element_; }
+
+  cow_ListConstIterator& operator++() noexcept
+  {
+    if (++element_ == blockEnd_ && block_ != lastBlock_) EnterBlock(block_ + 1, 0);
+    return *this;
+  }
+
+  cow_ListConstIterator operator++(int) noexcept
+  {
+    auto const before = *this;
+    ++*this;
+    return before;
+  }
+
+  friend bool operator==(cow_ListConstIterator const& a, cow_ListConstIterator const& b) noexcept
+  {
+    return a.element_ == b.element_;
+  }
+
+ private:
+  template <class>
+  friend class cow_List;
+  using Block = cow_ListBlock<T>;
+
+  cow_ListConstIterator(Block* const* block, Block* const* lastBlock, int shift, int place) noexcept
+      : lastBlock_(lastBlock), shift_(shift)
+  {
+    EnterBlock(block, place);
+  }
+
+  void EnterBlock(Block* const* block, int place) noexcept
+  {
+    block_ = block;
+    element_ = (*block)->Elements() + place;
+    blockEnd_ = (*block)->Elements() + (1 << shift_);
+  }
+
+  // The end stands behind the last element, in that element's block.
+  T const* element_ = nullptr;
+  T const* blockEnd_ = nullptr;
+  Block* const* block_ = nullptr;
+  Block* const* lastBlock_ = nullptr;
+  int shift_ = 0;
+};
+
+/// Types that FindMember and its kin can work with.
+template <class T>
+concept cow_Comparable = requires(T const& a, T const& b) { a == b; };
+
+/// Ordered list in blocks, whose copies share storage until one of them is changed.
+///
+/// Reading is const and never copies. Every change first takes a private copy of the array of blocks, if that is
+/// shared, and then of those blocks that it touches, if they are. Copying a list costs O(1); the first change
+/// afterwards O(blocks) plus the elements of the touched blocks; Append and Prepend O(1) on average; InsertIndex and
+/// RemoveIndex O(distance to the nearer end). Indexes start at 0; one out of range aborts. References and iterators
+/// are good until the list changes. An operation that throws, because an element's copy or the memory failed, leaves a
+/// valid list, and unless it says otherwise the same content. One thread: the counters are plain integers.
+template <class T>
+class cow_List
+{
+  using Block = cow_ListBlock<T>;
+
+ public:
+  using value_type = T;
+  using const_iterator = cow_ListConstIterator<T>;
+  using iterator = const_iterator;
+  using const_reference = T const&;
+  using reference = const_reference;
+  using size_type = int;
+  using difference_type = std::ptrdiff_t;
+
+  cow_List() noexcept = default;
+
+  /// An empty list laid out for `expected` elements; see Initialize.
+  explicit cow_List(int expected) { Initialize(expected); }
+
+  cow_List(std::initializer_list<T> elements)
+  {
+    // The destructor does not run for a list whose constructor throws.
+    cow_List list;
+    for (T const& element : elements) list.Append(element);
+    Swap(list);
+  }
+
+  cow_List(cow_List const& other) noexcept
+      : length_(other.length_), slotCount_(other.slotCount_), shift_(other.shift_), head_(other.head_),
+        counter_(other.counter_), slots_(other.slots_)
+  {
+    if (counter_) ++*counter_;
+  }
+
+  cow_List(cow_List&& other) noexcept { Swap(other); }
+
+  ~cow_List() { DropShare(); }
+
+  cow_List& operator=(cow_List const& other) noexcept
+  {
+    if (this != &other) cow_List(other).Swap(*this);
+    return *this;
+  }
+
+  cow_List& operator=(cow_List&& other) noexcept
+  {
+    cow_List(std::move(other)).Swap(*this);
+    return *this;
+  }
+
+  void Swap(cow_List& other) noexcept
+  {
+    std::swap(length_, other.length_);
+    std::swap(slotCount_, other.slotCount_);
+    std::swap(shift_, other.shift_);
+    std::swap(head_, other.head_);
+    std::swap(counter_, other.counter_);
+    std::swap(slots_, other.slots_);
+  }
+
+  /// Empties the list and lays it out for `expected` elements: larger blocks and all their slots at once.
+  ///
+  /// Large blocks are quick to fill and to copy whole, but a write into a shared one copies the whole block.
+  void Initialize(int expected)
+  {
+    Clear();
+    if (expected <= 0) return;
+    shift_ = std::max(initialShift, static_cast<int>(std::bit_width(static_cast<unsigned>(expected))) - 1 - 3);
+    ReplaceSlots(((expected - 1) >> shift_) + 1 + 16, 0);
+  }
+
+  int Length() const noexcept { return length_; }
+  bool IsEmpty() const noexcept { return length_ == 0; }
+
+  T const& ConstGet(int i) const
+  {
+    CheckIndex(i);
+    return UncheckedConstGet(i);
+  }
+
+  T const& operator[](int i) const { return ConstGet(i); }
+
+  /// @pre `i` is in range.
+  T const& UncheckedConstGet(int i) const noexcept { return *Place(head_ + i); }
+
+  T const& First() const { return ConstGet(0); }
+  T const& Last() const { return ConstGet(length_ - 1); }
+
+  const_iterator begin() const noexcept { return IteratorAt(0); }
+  const_iterator end() const noexcept { return IteratorAt(length_); }
+
+  /// True if both lists share their storage, and so are equal without a look at the elements.
+  bool Identical(cow_List const& other) const noexcept
+  {
+    return slots_ == other.slots_ && head_ == other.head_ && length_ == other.length_;
+  }
+
+  /// Element `i` for writing. It must not be used for that any more once the list has been copied.
+  T& Get(int i)
+  {
+    CheckIndex(i);
+    IsolateRange(i, i);
+    return *Place(head_ + i);
+  }
+
+  /// Stores `x` at `i`.
+  void Put(int i, T const& x) { Get(i) = x; }
+  void Put(int i, T&& x) { Get(i) = std::move(x); }
+
+  /// Makes the array of blocks private to this list. The blocks stay shared.
+  void CopyArray()
+  {
+    if (counter_ && *counter_ > 1) ReplaceSlots(slotCount_, 0);
+  }
+
+  /// Makes the blocks that hold elements `first` to `last` private to this list, and the array too.
+  void IsolateRange(int first, int last)
+  {
+    CopyArray();
+    for (int slot = (head_ + first) >> shift_; slot <= (head_ + last) >> shift_; ++slot) IsolateBlock(slot);
+  }
+
+  /// Shortens the list to `length` elements, or lengthens it by elements as `T()` makes them.
+  void Resize(int length)
+    requires std::is_default_constructible_v<T>
+  {
+    if (length < 0) RaiseOutOfRange(length);
+    int const before = length_;
+    try {
+      while (length_ < length) Emplace();
+    } catch (...) {
+      Truncate(before);
+      throw;
+    }
+    Truncate(length);
+  }
+
+  /// Adds `x` at the end; it may be an element of this list.
+  void Append(T const& x) { Emplace(x); }
+  void Append(T&& x) { Emplace(std::move(x)); }
+
+  /// Adds `x` before the first element; it may be an element of this list.
+  void Prepend(T const& x) { EmplaceFront(x); }
+  void Prepend(T&& x) { EmplaceFront(std::move(x)); }
+
+  /// Inserts `x` before element `i`, or at the end if `i` is the length; the elements on the nearer side move.
+  ///
+  /// If moving an element throws, the list stays valid, but elements may be in the state that the move left.
+  void InsertIndex(int i, T const& x) { InsertIndex(i, T(x)); }
+
+  void InsertIndex(int i, T&& x)
+  {
+    if (i == length_) return Append(std::move(x));
+    if (i == 0) return Prepend(std::move(x));
+    CheckIndex(i);
+    T inserted(std::move(x));
+    if (i >= length_ / 2) {
+      IsolateRange(i, length_ - 1);
+      Emplace(std::move(*Place(head_ + length_ - 1)));
+      MoveUp(head_ + i, head_ + length_ - 2);
+    } else {
+      IsolateRange(0, i - 1);
+      EmplaceFront(std::move(*Place(head_)));
+      MoveDown(head_ + 2, head_ + i + 1);
+    }
+    *Place(head_ + i) = std::move(inserted);
+  }
+
+  /// Removes element `i`; the elements on the nearer side move, and errors are those of InsertIndex.
+  void RemoveIndex(int i)
+  {
+    CheckIndex(i);
+    if (i >= length_ / 2) {
+      if (i < length_ - 1) IsolateRange(i, length_ - 1);
+      MoveDown(head_ + i + 1, head_ + length_);
+      Truncate(length_ - 1);
+    } else {
+      if (i > 0) IsolateRange(0, i);
+      MoveUp(head_, head_ + i);
+      TruncateFront(1);
+    }
+  }
+
+  void RemoveFirst()
+  {
+    CheckIndex(0);
+    TruncateFront(1);
+  }
+
+  void RemoveLast()
+  {
+    CheckIndex(length_ - 1);
+    Truncate(length_ - 1);
+  }
+
+  /// Removes the last element and gives it to the caller.
+  T Pop()
+  {
+    CheckIndex(length_ - 1);
+    T last(Last());
+    Truncate(length_ - 1);
+    return last;
+  }
+
+  /// Empties the list and gives up its storage.
+  void Clear() noexcept { cow_List().Swap(*this); }
+
+  /// The elements from `first` up to but not including `end`; whole blocks stay shared with this list.
+  cow_List Slice(int first, int end) const
+  {
+    if (first < 0 || first > end) RaiseOutOfRange(first);
+    if (end > length_) RaiseOutOfRange(end);
+    cow_List slice(*this);
+    slice.Truncate(end);
+    slice.TruncateFront(first);
+    return slice;
+  }
+
+  /// Adds the elements of `other`, which may be this list, at the end.
+  void Concatenate(cow_List const& other)
+  {
+    if (IsEmpty()) {
+      *this = other;
+      return;
+    }
+    cow_List const source(other);
+    int const before = length_;
+    try {
+      for (T const& element : source) Append(element);
+    } catch (...) {
+      Truncate(before);
+      throw;
+    }
+  }
+
+  /// Sets every element to `x`; the length stays.
+  void Fill(T const& x)
+  {
+    cow_List filled(length_);
+    for (int i = 0; i < length_; ++i) filled.Append(x);
+    Swap(filled);
+  }
+
+  /// Replaces the content by the `length` elements at `elements`.
+  void SetFromArray(T const* elements, int length)
+  {
+    cow_List list(length);
+    for (int i = 0; i < length; ++i) list.Append(elements[i]);
+    Swap(list);
+  }
+
+  /// Copies the elements to `elements`, which has room for Length() of them. What it copied before an error stays.
+  void GetCArray(T* elements) const { std::copy(begin(), end(), elements); }
+
+  /// The index of the first element equal to `x`, or -1.
+  int FindMember(T const& x) const
+    requires cow_Comparable<T>
+  {
+    int i = 0;
+    for (T const& element : *this) {
+      if (element == x) return i;
+      ++i;
+    }
+    return -1;
+  }
+
+  bool IsMember(T const& x) const
+    requires cow_Comparable<T>
+  {
+    return FindMember(x) >= 0;
+  }
+
+  /// Removes the first element equal to `x`; false if there is none.
+  bool RemoveMember(T const& x)
+    requires cow_Comparable<T>
+  {
+    int const i = FindMember(x);
+    if (i >= 0) RemoveIndex(i);
+    return i >= 0;
+  }
+
+  /// Adds `x` at the end unless it is an element already; true if it was added.
+  bool AppendUnlessMember(T const& x)
+    requires cow_Comparable<T>
+  {
+    if (IsMember(x)) return false;
+    Append(x);
+    return true;
+  }
+
+  /// The elements that are not members of `other`, in their order. Costs the product of the lengths.
+  cow_List Difference(cow_List const& other) const
+    requires cow_Comparable<T>
+  {
+    cow_List difference;
+    for (T const& element : *this) {
+      if (!other.IsMember(element)) difference.Append(element);
+    }
+    return difference;
+  }
+
+  /// True if both have equal elements in the same order.
+  bool IsEqual(cow_List const& other) const
+    requires cow_Comparable<T>
+  {
+    if (length_ != other.length_) return false;
+    return Identical(other) || std::equal(begin(), end(), other.begin());
+  }
+
+  friend bool operator==(cow_List const& a, cow_List const& b)
+    requires cow_Comparable<T>
+  {
+    return a.IsEqual(b);
+  }
+
+  /// Sorts by `operator<`; equal elements keep their order. A list in order already is left as it is, and shared.
+  void Sort()
+    requires requires(T const& a, T const& b) { a < b; }
+  {
+    Sort([](T const& a, T const& b) { return a < b; });
+  }
+
+  /// The same by `before(a, b)`, a strict weak order.
+  template <class Order>
+  void Sort(Order before)
+  {
+    if (std::is_sorted(begin(), end(), before)) return;
+    std::vector<T const*> order;
+    order.reserve(static_cast<std::size_t>(length_));
+    for (T const& element : *this) order.push_back(&element);
+    std::stable_sort(order.begin(), order.end(), [&](T const* a, T const* b) { return before(*a, *b); });
+    cow_List sorted(length_);
+    for (T const* element : order) sorted.Append(*element);
+    Swap(sorted);
+  }
+
+  void CheckIndex(int i) const
+  {
+    if (i < 0 || i >= length_) [[unlikely]] RaiseOutOfRange(i);
+  }
+
+  /// Aborts: an index out of range is a fault of the program, not a condition to recover from.
+  [[noreturn]] void RaiseOutOfRange(int) const { std::abort(); }
+
+ private:
+  static constexpr int initialShift = 4;
+
+  // Positions are absolute: element i is at head_ + i. A slot is null exactly if its block has no live element, and an
+  // empty list has the head at 0.
+
+  int Capacity() const noexcept { return 1 << shift_; }
+  int Mask() const noexcept { return Capacity() - 1; }
+  T* Place(int position) const noexcept { return slots_[position >> shift_]->Elements() + (position & Mask()); }
+
+  const_iterator IteratorAt(int i) const noexcept
+  {
+    if (length_ == 0) return {};
+    Block* const* const last = slots_ + ((head_ + length_ - 1) >> shift_);
+    if (i == length_) return {last, last, shift_, ((head_ + i - 1) & Mask()) + 1};
+    return {slots_ + ((head_ + i) >> shift_), last, shift_, (head_ + i) & Mask()};
+  }
+
+  template <class... Arguments>
+  void Emplace(Arguments&&... arguments)
+  {
+    int const length = length_;
+    int const place = (head_ + length) & Mask();
+    // Inside a block there is one already: the common case needs no more than a look at the two counters.
+    if (place != 0 && *counter_ == 1) [[likely]] {
+      Block* const block = slots_[(head_ + length) >> shift_];
+      if (block->counter == 1) [[likely]] {
+        ::new (static_cast<void*>(block->Elements() + place)) T(std::forward<Arguments>(arguments)...);
+        length_ = length + 1;
+        return;
+      }
+    }
+    EmplaceSlow(std::forward<Arguments>(arguments)...);
+  }
+
+  // Out of line, or every call of Append would grow by it.
+  template <class... Arguments>
+  [[gnu::noinline]] void EmplaceSlow(Arguments&&... arguments)
+  {
+    CopyArray();
+    if ((head_ + length_) >> shift_ >= slotCount_) Suffix();
+    EmplaceAt(head_ + length_, std::forward<Arguments>(arguments)...);
+    ++length_;
+  }
+
+  template <class... Arguments>
+  void EmplaceFront(Arguments&&... arguments)
+  {
+    CopyArray();
+    if (head_ == 0) Prefix();
+    // Prefix has moved the head of an empty list away from 0, where an error must leave it.
+    int const position = std::exchange(head_, length_ == 0 ? 0 : head_) - 1;
+    EmplaceAt(position, std::forward<Arguments>(arguments)...);
+    head_ = position;
+    ++length_;
+  }
+
+  /// Constructs an element at a position next to the live ones.
+  template <class... Arguments>
+  void EmplaceAt(int position, Arguments&&... arguments)
+  {
+    int const slot = position >> shift_;
+    if (slots_[slot]) {
+      IsolateBlock(slot);
+      ::new (static_cast<void*>(Place(position))) T(std::forward<Arguments>(arguments)...);
+      return;
+    }
+    NewBlock block(Capacity());
+    ::new (static_cast<void*>(block.Get()->Elements() + (position & Mask()))) T(std::forward<Arguments>(arguments)...);
+    slots_[slot] = block.Release();
+  }
+
+  /// A block without elements, freed unless released.
+  class NewBlock
+  {
+   public:
+    explicit NewBlock(int capacity) : capacity_(capacity), block_(Block::New(capacity)) {}
+    NewBlock(NewBlock const&) = delete;
+    NewBlock& operator=(NewBlock const&) = delete;
+    ~NewBlock()
+    {
+      if (block_) Block::Free(block_, capacity_);
+    }
+    Block* Get() const noexcept { return block_; }
+    Block* Release() noexcept { return std::exchange(block_, nullptr); }
+
+   private:
+    int capacity_;
+    Block* block_;
+  };
+
+  void IsolateBlock(int slot)
+  {
+    if (slots_[slot]->counter > 1) IsolateBlock(slot, head_, head_ + length_);
+  }
+
+  /// Replaces a shared block by a private copy of its elements at positions from `first` up to `end`.
+  void IsolateBlock(int slot, int first, int end)
+  {
+    int const start = slot << shift_;
+    int const from = std::max(first - start, 0);
+    int const to = std::min(end - start, Capacity());
+    NewBlock copy(Capacity());
+    std::uninitialized_copy(slots_[slot]->Elements() + from, slots_[slot]->Elements() + to,
+                            copy.Get()->Elements() + from);
+    --slots_[slot]->counter;
+    slots_[slot] = copy.Release();
+  }
+
+  /// Gives up a block; the last sharer destroys its elements, which are those at positions from `first` up to `end`.
+  void DropBlock(int slot, int first, int end) noexcept
+  {
+    Block* const block = std::exchange(slots_[slot], nullptr);
+    if (--block->counter > 0) return;
+    int const start = slot << shift_;
+    DestroyReversed(block->Elements() + std::max(first - start, 0),
+                    block->Elements() + std::min(end - start, Capacity()));
+    Block::Free(block, Capacity());
+  }
+
+  static void DestroyReversed(T* first, T* end) noexcept
+  {
+    if constexpr (!std::is_trivially_destructible_v<T>) {
+      while (end != first) std::destroy_at(--end);
+    }
+  }
+
+  void DropShare() noexcept
+  {
+    if (!counter_ || --*counter_ > 0) return;
+    if (length_ > 0) {
+      for (int slot = (head_ + length_ - 1) >> shift_; slot >= head_ >> shift_; --slot) {
+        DropBlock(slot, head_, head_ + length_);
+      }
+    }
+    mem_Free(slots_);
+    mem_OperatorDelete(counter_, sizeof(int));
+  }
+
+  /// Drops elements from the end until `length` are left.
+  void Truncate(int length)
+  {
+    if (length >= length_) return;
+    if (length == 0) return DropAll();
+    CopyArray();
+    int const oldEnd = head_ + length_;
+    int const end = head_ + length;
+    int const boundary = (end - 1) >> shift_;
+    bool const shared = slots_[boundary]->counter > 1;
+    if (shared && end < std::min(oldEnd, (boundary + 1) << shift_)) IsolateBlock(boundary, head_, end);
+    length_ = length;
+    for (int slot = (oldEnd - 1) >> shift_; slot > boundary; --slot) DropBlock(slot, head_, oldEnd);
+    if (!shared) {
+      int const start = boundary << shift_;
+      DestroyReversed(Place(end - 1) + 1, slots_[boundary]->Elements() + std::min(oldEnd - start, Capacity()));
+    }
+  }
+
+  /// Drops the first `count` elements.
+  void TruncateFront(int count)
+  {
+    if (count == 0) return;
+    if (count == length_) return DropAll();
+    CopyArray();
+    int const oldHead = head_;
+    int const head = head_ + count;
+    int const end = head_ + length_;
+    int const boundary = head >> shift_;
+    bool const shared = slots_[boundary]->counter > 1;
+    if (shared && head > std::max(oldHead, boundary << shift_)) IsolateBlock(boundary, head, end);
+    head_ = head;
+    length_ -= count;
+    if (!shared) DestroyReversed(slots_[boundary]->Elements() + std::max(oldHead - (boundary << shift_), 0), Place(head));
+    for (int slot = boundary - 1; slot >= oldHead >> shift_; --slot) DropBlock(slot, oldHead, end);
+  }
+
+  /// Empties the list; its layout stays if the array is its own.
+  void DropAll() noexcept
+  {
+    if (counter_ && *counter_ == 1) {
+      int const end = head_ + std::exchange(length_, 0);
+      int const head = std::exchange(head_, 0);
+      for (int slot = (end - 1) >> shift_; slot >= head >> shift_; --slot) DropBlock(slot, head, end);
+    } else {
+      Clear();
+    }
+  }
+
+  /// Moves the elements at positions from `first` up to `end` one position up; all places are live and private.
+  void MoveUp(int first, int end)
+  {
+    while (end > first) {
+      int const place = end & Mask();
+      if (place == 0) {
+        *Place(end) = std::move(*Place(end - 1));
+        --end;
+      } else {
+        int const count = std::min(place, end - first);
+        T* const start = Place(end - count);
+        std::move_backward(start, start + count, start + count + 1);
+        end -= count;
+      }
+    }
+  }
+
+  /// The same one position down.
+  void MoveDown(int first, int end)
+  {
+    while (first < end) {
+      int const place = first & Mask();
+      if (place == 0) {
+        *Place(first - 1) = std::move(*Place(first));
+        ++first;
+      } else {
+        int const count = std::min(Capacity() - place, end - first);
+        T* const start = Place(first);
+        std::move(start, start + count, start - 1);
+        first += count;
+      }
+    }
+  }
+
+  /// The slots in use, first and number.
+  int FirstSlot() const noexcept { return head_ >> shift_; }
+  int UsedSlots() const noexcept
+  {
+    return length_ == 0 ? 0 : ((head_ + length_ - 1) >> shift_) - FirstSlot() + 1;
+  }
+
+  /// Takes a private array of `count` slots whose first `front` are free, with the used slots of the present one after
+  /// them; without free slots in front the used ones keep their places.
+  void ReplaceSlots(int count, int front)
+  {
+    if (count > (INT_MAX >> shift_) + 1) throw std::length_error("cow_List");
+    auto const bytes = static_cast<std::size_t>(count) * sizeof(Block*);
+    std::unique_ptr<void, void (*)(void*)> memory(mem_Malloc(bytes), &mem_Free);
+    if (!memory) throw std::bad_alloc();
+    bool const shared = counter_ && *counter_ > 1;
+    int* const counter = counter_ && !shared ? counter_ : ::new (mem_OperatorNewTinyThrow(sizeof(int))) int(1);
+    std::memset(memory.get(), 0, bytes);
+
+    auto const slots = static_cast<Block**>(memory.release());
+    int const used = UsedSlots();
+    int const first = front > 0 ? front : FirstSlot();
+    if (used > 0) std::copy_n(slots_ + FirstSlot(), used, slots + first);
+    if (shared) {
+      for (int slot = first; slot < first + used; ++slot) ++slots[slot]->counter;
+      --*counter_;
+    } else {
+      mem_Free(slots_);
+    }
+    head_ += (first - FirstSlot()) << shift_;
+    counter_ = counter;
+    slots_ = slots;
+    slotCount_ = count;
+  }
+
+  /// Moves the used slots of the private array so that `front` free ones stand before them.
+  void ShiftSlots(int front) noexcept
+  {
+    int const first = FirstSlot();
+    int const used = UsedSlots();
+    if (used > 0) std::memmove(slots_ + front, slots_ + first, static_cast<std::size_t>(used) * sizeof(Block*));
+    std::fill(slots_, slots_ + front, nullptr);
+    std::fill(slots_ + front + used, slots_ + slotCount_, nullptr);
+    head_ += (front - first) << shift_;
+  }
+
+  /// Makes a free slot behind the used ones.
+  void Suffix()
+  {
+    // A queue, filled at the end and emptied at the front, must not grow for ever.
+    if (FirstSlot() > slotCount_ / 2) ShiftSlots(0);
+    else ReplaceSlots(GrownSlots(), 0);
+  }
+
+  /// Makes a free slot before the used ones, as many as there are behind them; leaves the head of an empty list there.
+  void Prefix()
+  {
+    int const used = UsedSlots();
+    if (used >= slotCount_ / 2) ReplaceSlots(GrownSlots(), (GrownSlots() - used + 1) / 2);
+    else ShiftSlots((slotCount_ - used + 1) / 2);
+  }
+
+  int GrownSlots() const noexcept
+  {
+    int const most = (INT_MAX >> shift_) + 1;
+    return slotCount_ > most / 2 ? std::max(most, slotCount_ + 1) : std::max(4, 2 * slotCount_);
+  }
+
+  int length_ = 0;
+  int slotCount_ = 0;
+  int shift_ = initialShift;
+  int head_ = 0;
+  int* counter_ = nullptr;
+  Block** slots_ = nullptr;
+};
+
+/// Walk over a list that shares it: what is done to the list meanwhile does not show in the walk.
+///
+///     for (cow_ListIter<T> iter(list); !iter.IsDone(); iter.Next()) Use(iter.Current());
+template <class T>
+class cow_ListIter
+{
+ public:
+  /// Stands on the first element.
+  explicit cow_ListIter(cow_List<T> const& list) noexcept : list_(list) { First(); }
+  cow_ListIter(cow_ListIter const&) = default;
+  cow_ListIter& operator=(cow_ListIter const&) = default;
+
+  /// Goes to the first element; false if there is none.
+  bool First() noexcept
+  {
+    current_ = list_.begin();
+    return !IsDone();
+  }
+
+  /// Goes to the next element; false if there is none. @pre !IsDone()
+  bool Next() noexcept
+  {
+    ++current_;
+    return !IsDone();
+  }
+
+  bool IsDone() const noexcept { return current_ == list_.end(); }
+
+  /// @pre !IsDone()
+  T const& Current() const noexcept { return *current_; }
+  T const& operator*() const noexcept { return *current_; }
+  T const* operator->() const noexcept { return &*current_; }
+
+ private:
+  cow_List<T> list_;
+  cow_ListConstIterator<T> current_;
+};
