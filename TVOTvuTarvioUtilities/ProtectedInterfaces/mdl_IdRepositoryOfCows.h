@@ -5,7 +5,7 @@
 
 /// Objects by a running number, and the numbers by key. A number, once given, is not given to another object.
 template <class K, class T>
-class mdl_IdRepositoryOfCows : public mdl_Repository {
+class TVO_API mdl_IdRepositoryOfCows : public mdl_Repository {
  public:
   using Holder = cow_COW<T, cow_Virtual<T>>;
 

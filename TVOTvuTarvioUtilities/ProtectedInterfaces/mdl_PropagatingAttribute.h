@@ -32,12 +32,9 @@ class TVO_API mdl_PropAttrBase : public cls_Persistent {
   /// Stores the state; the value is not touched, not even for UNSET or FREED.
   void ForceState(mdl_PropAttributeStateEnm state) noexcept { state_ = state; }
   /// SET becomes PROPAGATED, FREED becomes UNSET; the value is not touched.
-  void Propagate() noexcept {
-    if (state_ == SET) {
-      state_ = PROPAGATED;
-    } else if (state_ == FREED) {
-      state_ = UNSET;
-    }
+  void Propagate() noexcept { state_ = Propagated(state_); }
+  static mdl_PropAttributeStateEnm Propagated(mdl_PropAttributeStateEnm state) noexcept {
+    return state == SET ? PROPAGATED : state == FREED ? UNSET : state;
   }
   /// The user did something to it in this step.
   bool IsModified() const noexcept { return state_ == SET || state_ == FREED; }
@@ -63,6 +60,11 @@ class TVO_API mdl_PropAttrBase : public cls_Persistent {
     }
   }
 
+  /// Lays another step's edit over this value: what the edit did not touch stays. `other` is of the same class.
+  virtual void Modify(mdl_PropAttrBase const& other) = 0;
+  /// Whether this is what Propagate() would make of `before`, an attribute of the same class.
+  virtual bool IsPropagationOf(mdl_PropAttrBase const& before) const = 0;
+
   /// The value as a person types it; SetValueText gives the value and the state SET, false if the text cannot be read.
   virtual std::string ValueText() const = 0;
   virtual bool SetValueText(std::string_view text) = 0;
@@ -77,7 +79,7 @@ class TVO_API mdl_PropAttrBase : public cls_Persistent {
 /// A value of a step-dependent object together with how it came to be in the step: typed here, inherited, released here,
 /// or never given. Equality with another attribute is by value and state; with a T by value; with a state by state.
 template <class T>
-class mdl_PropAttr final : public mdl_PropAttrBase {
+class TVO_API mdl_PropAttr final : public mdl_PropAttrBase {
  public:
   static constexpr unsigned int TypeId() noexcept { return mdl_PropAttrForm<T>::typeId; }
   static cls_AttributeTable const& Attributes();
@@ -117,12 +119,15 @@ class mdl_PropAttr final : public mdl_PropAttrBase {
   T const& ConstGet() const noexcept { return value_; }
   void Zero() override { value_ = T(); }
 
-  /// Lays another step's edit over this value: what the edit did not touch stays.
   void Modify(mdl_PropAttr const& other) {
     if (other.IsModified()) {
       state_ = other.state_;
       value_ = other.value_;
     }
+  }
+  void Modify(mdl_PropAttrBase const& other) override { Modify(static_cast<mdl_PropAttr const&>(other)); }
+  bool IsPropagationOf(mdl_PropAttrBase const& before) const override {
+    return state_ == Propagated(before.State()) && value_ == static_cast<mdl_PropAttr const&>(before).value_;
   }
 
   std::string ValueText() const override;

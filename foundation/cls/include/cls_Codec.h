@@ -228,16 +228,17 @@ struct cls_Codec<cow_COW<T, Policy>> {
       return Holder(Construct(inner));
     }
     static char const holderType = 0;
-    if (shared->holder != nullptr && shared->holderType == &holderType) {
-      return *static_cast<Holder const*>(shared->holder.get());
+    for (auto const& [type, holder] : shared->holders) {
+      if (type == &holderType) {
+        return *static_cast<Holder const*>(holder.get());
+      }
     }
     if (shared->reading) {
       inner.Refuse("an object holds itself");
     }
     shared->reading = true;
     auto holder = std::make_shared<Holder>(Construct(inner));
-    shared->holder = holder;
-    shared->holderType = &holderType;
+    shared->holders.emplace_back(&holderType, holder);
     shared->reading = false;
     return *holder;
   }

@@ -312,6 +312,14 @@ struct cls_Codec<cls_ValueList<V, Tag>> : cls_CollectionCodec<cls_ValueList<V, T
     Base::RestoreUid(list, stored);
     return list;
   }
+  static void NewUid(List& list) {
+    list.NewUid();
+    if constexpr (ofLists) {
+      for (int i = 0; i < list.Length(); ++i) {
+        list.Get(i).NewUid();
+      }
+    }
+  }
   // The level of a list decides what stands between its elements.
   static std::string Text(List const& list) {
     std::string text;

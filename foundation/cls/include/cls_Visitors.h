@@ -38,6 +38,9 @@ class TVO_API cls_WriteSession {
   std::uint32_t FindWritten(std::uint64_t uid, void const* place) const;
   void NoteWritten(std::uint64_t uid, void const* place, std::uint32_t row);
 
+  /// Depth of objects in objects, bounded as it is for reading, so that what is saved can be opened.
+  int depth = 0;
+
  private:
   struct Written {
     std::uint64_t uid = 0;
@@ -130,8 +133,8 @@ class TVO_API cls_ReadSession {
   struct Shared {
     bool reading = false;
     std::unique_ptr<cls_Persistent> object;
-    std::shared_ptr<void> holder;
-    void const* holderType = nullptr;
+    /// One for each type of holder that refers to the row, with the address that stands for the type.
+    std::vector<std::pair<void const*, std::shared_ptr<void>>> holders;
   };
   /// The record of a row that more than one place refers to, null for all others.
   Shared* FindShared(cls_Table const& table, std::uint32_t row);
@@ -141,7 +144,19 @@ class TVO_API cls_ReadSession {
   static constexpr int maxDepth = 200;
 
  private:
-  void CountReference(unsigned int classId, std::uint32_t row, char const* what, std::uint32_t fromRow);
+  void CountReference(unsigned int classId, std::uint32_t row, std::string_view place, std::uint32_t fromRow) {
+    if (classId != target_.classId) {
+      SetTarget(classId);
+    }
+    if (row >= target_.rows) {
+      RefuseReference(place, fromRow);
+    }
+    std::uint8_t& count = target_.references[row];
+    count = count == 0 ? 1 : 2;
+  }
+  void SetTarget(unsigned int classId);
+  [[noreturn]] static void RefuseReference(std::string_view place, std::uint32_t fromRow);
+  void CheckColumn(cls_Table const& table, std::size_t column);
   void CheckTable(cls_Table const& table);
   void CheckCollection(cls_Collection const& collection, std::uint32_t number);
 
@@ -155,6 +170,13 @@ class TVO_API cls_ReadSession {
 
   cls_Database const& database_;
   std::vector<TableState> states_;  ///< by the table's place
+  /// The class that the last reference was to; most references come in rows of one class.
+  struct Target {
+    unsigned int classId = 0;
+    std::uint32_t rows = 0;
+    std::uint8_t* references = nullptr;
+  };
+  Target target_;
   std::vector<std::vector<int>> enumCaches_;
 };
 

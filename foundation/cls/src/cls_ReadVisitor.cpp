@@ -32,49 +32,70 @@ cls_ReadSession::cls_ReadSession(cls_Database const& database) : database_(datab
 
 cls_ReadSession::~cls_ReadSession() = default;
 
-void cls_ReadSession::CountReference(unsigned int classId, std::uint32_t row, char const* what, std::uint32_t fromRow) {
-  cls_Table const* const target = database_.FindTable(classId);
-  if (target == nullptr || row >= target->Rows()) {
-    cls_RefuseStored(what, fromRow, "refers to a row that is not there");
+void cls_ReadSession::SetTarget(unsigned int classId) {
+  cls_Table const* const table = database_.FindTable(classId);
+  target_.classId = classId;
+  target_.rows = table == nullptr ? 0 : table->Rows();
+  target_.references = table == nullptr ? nullptr : StateOf(*table).references.data();
+}
+
+void cls_ReadSession::RefuseReference(std::string_view place, std::uint32_t fromRow) {
+  cls_RefuseStored(place, fromRow, "refers to a row that is not there");
+}
+
+void cls_ReadSession::CheckColumn(cls_Table const& table, std::size_t c) {
+  std::string_view const place = table.name.View();
+  cls_Column const& column = table.columns[c];
+  auto const forRows = [&](auto check) {
+    for (std::uint32_t row = 0; row < column.words.size(); ++row) {
+      check(row, column.words[row]);
+    }
+  };
+  switch (column.kind) {
+    case cls_CellKind::String:
+      forRows([&](std::uint32_t row, std::uint32_t word) {
+        if (word >= database_.strings.size()) {
+          cls_RefuseStored(place, row, "refers to a text that is not there");
+        }
+      });
+      break;
+    case cls_CellKind::Row:
+      forRows([&](std::uint32_t row, std::uint32_t word) {
+        if (word != cls_NoRow) {
+          CountReference(column.target, word, place, row);
+        }
+      });
+      break;
+    case cls_CellKind::RowOfClass: {
+      std::vector<std::uint32_t> const& classes = table.columns[c - 1].words;
+      forRows([&](std::uint32_t row, std::uint32_t word) {
+        if (word != cls_NoRow) {
+          CountReference(classes[row], word, place, row);
+        }
+      });
+      break;
+    }
+    case cls_CellKind::Collection:
+      forRows([&](std::uint32_t row, std::uint32_t word) {
+        if (word != cls_NoRow && word >= database_.collections.size()) {
+          cls_RefuseStored(place, row, "refers to a collection that is not there");
+        }
+      });
+      break;
+    default:
+      break;
   }
-  std::uint8_t& count = StateOf(*target).references[row];
-  count = count == 0 ? 1 : 2;
 }
 
 void cls_ReadSession::CheckTable(cls_Table const& table) {
-  for (std::size_t c = 0; c < table.columns.size(); ++c) {
-    cls_Column const& column = table.columns[c];
+  for (cls_Column const& column : table.columns) {
     std::size_t const cells = column.kind == cls_CellKind::Double ? column.doubles.size() : column.words.size();
     if (cells != table.Rows()) {
       cls_RefuseStored(table.name.View(), cls_NoRow, "a column has not one cell a row");
     }
-    for (std::uint32_t row = 0; row < column.words.size(); ++row) {
-      std::uint32_t const word = column.words[row];
-      switch (column.kind) {
-        case cls_CellKind::String:
-          if (word >= database_.strings.size()) {
-            cls_RefuseStored(table.name.View(), row, "refers to a text that is not there");
-          }
-          break;
-        case cls_CellKind::Row:
-          if (word != cls_NoRow) {
-            CountReference(column.target, word, table.name.CStr(), row);
-          }
-          break;
-        case cls_CellKind::RowOfClass:
-          if (word != cls_NoRow) {
-            CountReference(table.columns[c - 1].words[row], word, table.name.CStr(), row);
-          }
-          break;
-        case cls_CellKind::Collection:
-          if (word != cls_NoRow && word >= database_.collections.size()) {
-            cls_RefuseStored(table.name.View(), row, "refers to a collection that is not there");
-          }
-          break;
-        default:
-          break;
-      }
-    }
+  }
+  for (std::size_t c = 0; c < table.columns.size(); ++c) {
+    CheckColumn(table, c);
   }
 }
 
@@ -162,7 +183,8 @@ cls_ReadVisitor::cls_ReadVisitor(cls_ReadSession& session) : session_(&session) 
 }
 
 cls_ReadVisitor::cls_ReadVisitor(cls_ReadVisitor const& outer, cls_FieldHandle const& key) : session_(outer.session_) {
-  int const column = outer.table_->FindColumn(std::string(key.name.View()) + cls_ClassIdSuffix);
+  int const column =
+      outer.HasRow() ? outer.table_->FindColumn(std::string(key.name.View()) + cls_ClassIdSuffix) : -1;
   if (column >= 0) {
     auto const at = static_cast<std::size_t>(column);
     unsigned int const classId = outer.table_->columns[at].words[outer.row_];
@@ -175,12 +197,12 @@ cls_ReadVisitor::cls_ReadVisitor(cls_ReadVisitor const& outer, cls_FieldHandle c
 }
 
 cls_Uid cls_ReadVisitor::GetUid() const {
-  std::uint64_t const stored = table_->uids[row_];
+  std::uint64_t const stored = table_ == nullptr ? 0 : table_->uids[row_];
   return stored == 0 ? cls_Uid() : cls_Uid::Stored(stored);
 }
 
 cls_Column const* cls_ReadVisitor::Field(cls_FieldHandle const& key) const {
-  int const found = table_->FindColumn(key.name.View());
+  int const found = table_ == nullptr ? -1 : table_->FindColumn(key.name.View());
   return found < 0 ? nullptr : &table_->columns[static_cast<std::size_t>(found)];
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "cls_Codec.h"
 #include "nex_Exception.h"
 #include "typ_ArchCompTable.h"
 

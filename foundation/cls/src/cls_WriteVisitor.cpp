@@ -119,6 +119,7 @@ unsigned int cls_WriteVisitor::StartWrite(unsigned int typeId, cls_Uid const& ui
   bool const base = role_ == Role::base;
   std::uint32_t const before = base ? cls_NoRow : session_->FindWritten(uid.Value(), nullptr);
   if (before != cls_NoRow) {
+    row_ = before;
     Link(typeId, before);
     return 0;
   }
@@ -171,7 +172,8 @@ void cls_WriteVisitor::Put(cls_FieldHandle const& key, double value) const {
   Column(key, cls_CellKind::Double).Set(row_, value);
 }
 void cls_WriteVisitor::Put(cls_FieldHandle const& key, cow_String const& value) const {
-  Column(key, cls_CellKind::String).Set(row_, session_->StringNumber(value));
+  // Not by the session's cache: the text may be gone when another one stands at its place.
+  Column(key, cls_CellKind::String).Set(row_, session_->Database().StringNumber(value.View()));
 }
 
 void cls_WriteVisitor::WriteObject(cls_Persistent const& object) const {
@@ -191,7 +193,12 @@ void cls_WriteVisitor::WriteObject(cls_Persistent const& object) const {
     session_->NoteWritten(uid, &object, row_);
   }
   Link(attributes.TypeId(), row_);
+  if (session_->depth >= cls_ReadSession::maxDepth) {
+    cls_RefuseStored(attributes.Name().View(), row_, "objects are nested too deeply");
+  }
+  ++session_->depth;
   attributes.WriteLevel(object, *this);
+  --session_->depth;
 }
 
 void cls_WriteVisitor::SetObject(int column, cls_Persistent const& object, bool shareable) const {

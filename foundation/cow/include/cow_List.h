@@ -637,7 +637,10 @@ class cow_List
     if (shared && head > std::max(oldHead, boundary << shift_)) IsolateBlock(boundary, head, end);
     head_ = head;
     length_ -= count;
-    if (!shared) DestroyReversed(slots_[boundary]->Elements() + std::max(oldHead - (boundary << shift_), 0), Place(head));
+    if (!shared) {
+      int const start = boundary << shift_;
+      DestroyReversed(slots_[boundary]->Elements() + std::max(oldHead - start, 0), Place(head));
+    }
     for (int slot = boundary - 1; slot >= oldHead >> shift_; --slot) DropBlock(slot, oldHead, end);
   }
 

@@ -27,7 +27,7 @@ class TVO_API mdl_Repository : public mdl_Extension {
 
 /// Wraps a container so that a model can hold it; the copies that models take share the container until they edit it.
 template <class T>
-class mdl_ExtensionWrapper final : public mdl_Extension {
+class TVO_API mdl_ExtensionWrapper final : public mdl_Extension {
   CLS_PERSISTENT_TEMPLATE(mdl_ExtensionWrapper)
 
  public:
@@ -53,7 +53,7 @@ using mdl_MapString2ObjCow = cls_xcBtree<cow_String, cow_COW<T, cow_Virtual<T>>,
 
 /// A repository of objects by key.
 template <class K, class T>
-class mdl_MapOfCowsRepository final : public mdl_Repository {
+class TVO_API mdl_MapOfCowsRepository final : public mdl_Repository {
   CLS_PERSISTENT_TEMPLATE(mdl_MapOfCowsRepository)
 
  public:

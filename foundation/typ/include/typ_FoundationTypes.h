@@ -9,7 +9,7 @@ inline constexpr unsigned short typ_mdlModuleId = 0xa;
 inline constexpr typ_Row typ_mdlRows[] = {
     {1, "mdl_Repository", "mdl_Extension"},
     {2, "mdl_Extension", ""},
-    {3, "mdl_ExtensionWrapper", ""},
+    {3, "mdl_ExtensionWrapper", "mdl_Extension"},
     {4, "mdl_MapOfCowsRepository", "mdl_Repository"},
     {5, "mdl_MapString2ObjCow", ""},
     {6, "mdl_PropAttr<double>", ""},

@@ -107,15 +107,15 @@ void Operate(std::mt19937& random, cow_List<T>& list, Model& model)
     break;
   case 11: if (!empty) { list.Append(list[i]); model.push_back(model[static_cast<std::size_t>(i)]); } break;
   case 12: {
-    int const size = below(length + 4);
+    int const size = std::max(0, length + below(40) - 21);
     list.Resize(size);
     model.resize(static_cast<std::size_t>(size));
     break;
   }
   default:
-    if (length > 200 || below(3) == 0) {
-      list = list.Slice(i / 2, i);
-      model = Model(model.begin() + i / 2, model.begin() + i);
+    if (length > 120) {
+      list = list.Slice(length / 4, i / 4 + length / 2);
+      model = Model(model.begin() + length / 4, model.begin() + i / 4 + length / 2);
     } else {
       list.Concatenate(list);
       Model const twice(model);
@@ -131,7 +131,7 @@ void CompareWithVector(int expected)
   cow_List<T> list(expected);
   Model model;
   std::vector<std::pair<cow_List<T>, Model>> copies(8);
-  for (int step = 0; step < 6000; ++step) {
+  for (int step = 0; step < 3000; ++step) {
     Operate(random, list, model);
     ASSERT_EQ(Content(list), model) << step;
     auto& copy = copies[random() % copies.size()];

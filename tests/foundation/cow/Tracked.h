@@ -3,7 +3,7 @@
 #include <set>
 #include <stdexcept>
 
-/// A number that knows which of its kind are alive and how often they were copied, and whose copies can be made to fail.
+/// A number that knows which of its kind are alive and how often they were copied; copies can be made to fail.
 /// Destroying or reading one that is not alive shows in `faults`.
 class Tracked
 {
@@ -14,19 +14,10 @@ class Tracked
   static int Alive() { return static_cast<int>(alive_.size()); }
 
   Tracked(int value = 0) : value_(value) { alive_.insert(this); }
-  Tracked(Tracked const& other) : value_(other.Value())
-  {
-    if (copiesUntilFailure == 0) throw std::runtime_error("copy");
-    if (copiesUntilFailure > 0) --copiesUntilFailure;
-    ++copies;
-    alive_.insert(this);
-  }
+  Tracked(Tracked const& other) : value_(other.Copied()) { alive_.insert(this); }
   Tracked& operator=(Tracked const& other)
   {
-    if (copiesUntilFailure == 0) throw std::runtime_error("copy");
-    if (copiesUntilFailure > 0) --copiesUntilFailure;
-    ++copies;
-    value_ = other.Value();
+    value_ = other.Copied();
     return *this;
   }
   ~Tracked()
@@ -43,8 +34,26 @@ class Tracked
   bool operator<(Tracked const& other) const { return Value() < other.Value(); }
 
  private:
+  int Copied() const
+  {
+    if (copiesUntilFailure == 0) throw std::runtime_error("copy");
+    if (copiesUntilFailure > 0) --copiesUntilFailure;
+    ++copies;
+    return Value();
+  }
+
   static inline std::set<Tracked const*> alive_;
   int value_;
+};
+
+/// A Tracked that moves without copying and so cannot fail at it.
+class TrackedMovable : public Tracked
+{
+ public:
+  using Tracked::Tracked;
+  TrackedMovable(TrackedMovable const&) = default;
+  TrackedMovable(TrackedMovable&& other) noexcept : Tracked(other.Value()) {}
+  TrackedMovable& operator=(TrackedMovable const&) = default;
 };
 
 /// Tries `change` with the first copy failing, then with the second, and so on until it goes through, and calls `check`

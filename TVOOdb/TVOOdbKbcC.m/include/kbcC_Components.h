@@ -1,0 +1,201 @@
+#pragma once
+
+#include <array>
+
+#include "kbcC_BC.h"
+
+// What the conditions on six components (three translations, three rotations) share. A state lists its components in
+// `Components()`, in the order of translations and rotations; one that has complex values, too, lists these in
+// `ComplexComponents()`.
+
+/// Refuses a distribution by a discrete field, in those words.
+TVO_API void kbcC_AssertNoDiscreteField(kbcC_BC const& condition, char const* refusal);
+
+/// A state of six components; S is the class that lists them.
+template <class S, class Base>
+class kbcC_ComponentState : public Base {
+ public:
+  /// How a component stands in a step of that procedure. A complex value counts where the procedure works with these.
+  mdl_PropAttributeStateEnm StateOf(std::size_t i, unsigned int procedure) const {
+    if constexpr (requires { S::ComplexComponents(); }) {
+      if (this->UseComplex(procedure) && !(Self().*S::ComplexComponents()[i]).IsZero()) {
+        return SET;
+      }
+    }
+    return (Self().*S::Components()[i]).State();
+  }
+  /// Whether a value is in force.
+  bool HasValue(std::size_t i, unsigned int procedure) const {
+    auto const state = StateOf(i, procedure);
+    return state == SET || state == PROPAGATED;
+  }
+  /// A procedure without magnitudes takes the values away.
+  void ChangeProcedureType(unsigned int procedure) override {
+    Base::ChangeProcedureType(procedure);
+    if (!this->UseMagnitude(procedure)) {
+      for (auto const component : S::Components()) {
+        static_cast<S&>(*this).*component = UNSET;
+      }
+    }
+  }
+
+ private:
+  S const& Self() const { return static_cast<S const&>(*this); }
+};
+
+/// Declares a state's six real components.
+#define KBCC_REAL_COMPONENTS(Class, c1, c2, c3, r1, r2, r3)                        \
+  mdl_PropAttr<double> c1, c2, c3, r1, r2, r3;                                     \
+  static constexpr std::array<mdl_PropAttr<double> Class::*, 6> Components() {     \
+    return {&Class::c1, &Class::c2, &Class::c3, &Class::r1, &Class::r2, &Class::r3}; \
+  }
+
+/// Access to the values of a step by component, for a condition whose states are of class S.
+template <class Base, class S>
+class kbcC_ComponentBC : public Base {
+ public:
+  using ComponentState = omu_PrimEnum<mdl_PropAttributeStateEnm, 1>;
+
+  /// The value in force in a step; refused as CheckStep refuses.
+  S const& ConstGetState(cow_String const& step) const {
+    this->CheckStep(step);
+    return kprC_CheckedCast<S>(*this->StateIn(step), __FILE__, __LINE__);
+  }
+
+ protected:
+  static constexpr bool hasComplex = requires { S::ComplexComponents(); };
+  /// What the imaginary part is where a step has none.
+  static constexpr double noImaginaryPart = -1.7976931348623157e308;
+
+  ComponentState GetState(cow_String const& step, std::size_t i) const {
+    return ConstGetState(step).StateOf(i, Procedure(step));
+  }
+  double GetReal(cow_String const& step, std::size_t i) const {
+    S const& state = ConstGetState(step);
+    if constexpr (hasComplex) {
+      if (state.UseComplex(Procedure(step))) {
+        return Complex(state, i).ConvertedReal();
+      }
+    }
+    return (state.*S::Components()[i]).ConstGet();
+  }
+  double GetImag(cow_String const& step, std::size_t i) const {
+    [[maybe_unused]] S const& state = ConstGetState(step);
+    if constexpr (hasComplex) {
+      if (state.UseComplex(Procedure(step))) {
+        return Complex(state, i).ConvertedImag();
+      }
+    }
+    return noImaginaryPart;
+  }
+
+ private:
+  static omi_complex const& Complex(S const& state, std::size_t i)
+    requires hasComplex
+  {
+    return state.*S::ComplexComponents()[i];
+  }
+  unsigned int Procedure(cow_String const& step) const {
+    return static_cast<unsigned int>(this->ConstGetStateQuad(step).Procedure());
+  }
+};
+
+/// Declares Get<Name>State, Get<Name>Real and Get<Name>Imag for a component.
+#define KBCC_COMPONENT_GETTERS(Name, index)                                                                  \
+  auto Get##Name##State(cow_String const& stepName) const { return this->GetState(stepName, index); }        \
+  double Get##Name##Real(cow_String const& stepName) const { return this->GetReal(stepName, index); }        \
+  double Get##Name##Imag(cow_String const& stepName) const { return this->GetImag(stepName, index); }
+
+/// The same for all six, and the scripting names of the components and their states.
+#define KBCC_SIX_COMPONENTS(c1, C1, c2, C2, c3, C3, r1, R1, r2, R2, r3, R3) \
+  KBCC_COMPONENT_GETTERS(C1, 0)                                             \
+  KBCC_COMPONENT_GETTERS(C2, 1)                                             \
+  KBCC_COMPONENT_GETTERS(C3, 2)                                             \
+  KBCC_COMPONENT_GETTERS(R1, 3)                                             \
+  KBCC_COMPONENT_GETTERS(R2, 4)                                             \
+  KBCC_COMPONENT_GETTERS(R3, 5)                                             \
+  KPRC_CMD(c1) KPRC_CMD(c2) KPRC_CMD(c3) KPRC_CMD(r1) KPRC_CMD(r2) KPRC_CMD(r3) \
+  KPRC_CMD(c1##State) KPRC_CMD(c2##State) KPRC_CMD(c3##State)               \
+  KPRC_CMD(r1##State) KPRC_CMD(r2##State) KPRC_CMD(r3##State)
+
+/// The values of a prescribed displacement: real components, and complex ones for the procedures that use these. Which
+/// form is in force depends on the step's procedure.
+template <class Base>
+class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValues<Base>, Base> {
+  using Values = kbcC_DisplacementValues;
+  using Components_ = kbcC_ComponentState<Values, Base>;
+
+ public:
+  KBCC_REAL_COMPONENTS(Values, u1, u2, u3, ur1, ur2, ur3)
+  static constexpr std::array<omi_complex Values::*, 6> ComplexComponents() {
+    return {&Values::cU1, &Values::cU2, &Values::cU3, &Values::cUR1, &Values::cUR2, &Values::cUR3};
+  }
+
+  /// Complex values and buckling case are taken over whole, whatever the states of the components and of `other`.
+  void Modify(kprC_StepState const& other) override {
+    Base::Modify(other);
+    auto const& edit = static_cast<kbcC_DisplacementValues const&>(other);
+    for (auto const component : ComplexComponents()) {
+      this->*component = edit.*component;
+    }
+    buckleCase = edit.buckleCase;
+  }
+  void Zero() override {
+    Base::Zero();
+    for (auto const component : ComplexComponents()) {
+      (this->*component).Zero();
+    }
+    buckleCase = NOT_APPLICABLE;
+  }
+  bool IsModified() const override {
+    // Callers rely on just this list: cU3 and cUR2 take no part.
+    bool const complex = !cU1.IsZero() || !cU2.IsZero() || !cU1.IsZero() || !cUR1.IsZero() || !cU1.IsZero() || !cUR3.IsZero();
+    return Base::IsModified() || complex || buckleCase != NOT_APPLICABLE;
+  }
+  void ChangeProcedureType(unsigned int procedure) override {
+    Components_::ChangeProcedureType(procedure);
+    for (auto const component : ComplexComponents()) {
+      omi_complex& value = this->*component;
+      if (!this->UseMagnitude(procedure)) {
+        value.Zero();
+      } else if (!this->UseComplex(procedure)) {
+        value = omi_complex(value.ConvertedReal(), 0.0);
+      }
+    }
+  }
+
+  omi_complex cU1, cU2, cU3, cUR1, cUR2, cUR3;
+  kbcC_BucklingCaseEnm buckleCase = NOT_APPLICABLE;
+};
+
+/// A displacement that may be held at what it is ("fixed"), an answer for all steps.
+template <class Base, class S>
+class kbcC_HeldDisplacement : public kbcC_ComponentBC<Base, S> {
+ public:
+  void AssertValid() const override {
+    if (this->suppressionState != RESUMED) {
+      return;
+    }
+    Base::AssertValid();
+    if (fixed) {
+      for (auto const& quad : this->states) {
+        if (quad.state.HasValue() && !quad.IsStepSuppressed()) {
+          AssertZero(kprC_CheckedCast<S>(quad.state.ConstGet(), __FILE__, __LINE__), 16);
+        }
+      }
+    }
+    auto const& initial = this->states.First();
+    if (initial.state.HasValue()) {
+      AssertZero(kprC_CheckedCast<S>(initial.state.ConstGet(), __FILE__, __LINE__), 6);
+    }
+  }
+
+  bool fixed = false;
+
+ private:
+  static void AssertZero(S const& state, int error) {
+    for (auto const* value : {&state.u1, &state.ur1, &state.u2, &state.ur2, &state.u3, &state.ur3}) {
+      kbcC_Assert(value->ConstGet() == 0.0, error);
+    }
+  }
+};

@@ -1,0 +1,5 @@
+#include "kinC_module.h"
+
+#include "kinC_Types.h"
+
+DDR_DEFINE_MODULE(KinC, kinC, {.id = kinC_ModuleId, .types = kinC_TypeRows})

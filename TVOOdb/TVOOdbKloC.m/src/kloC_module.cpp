@@ -1,0 +1,5 @@
+#include "kloC_module.h"
+
+#include "kloC_Types.h"
+
+DDR_DEFINE_MODULE(KloC, kloC, {.id = kloC_ModuleId, .types = kloC_TypeRows})

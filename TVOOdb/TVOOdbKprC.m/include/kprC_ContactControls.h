@@ -1,0 +1,13 @@
+#pragma once
+
+#include "cls_Persistent.h"
+#include "kprC_Types.h"
+
+/// How a step treats contact. The kinds of solvers derive their own parameters from it.
+class TVO_API kprC_ContactControls : public cls_Persistent {
+  CLS_PERSISTENT(kprC, kprC_ContactControls)
+
+ public:
+  kprC_ContactControls() = default;
+  virtual void AssertValid() const {}
+};

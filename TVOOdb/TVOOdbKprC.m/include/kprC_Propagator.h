@@ -1,0 +1,81 @@
+#pragma once
+
+#include <optional>
+
+#include "kprC_PropagatingState.h"
+#include "kprC_Procedures.h"
+#include "kprC_StepRules.h"
+
+/// Whether a procedure works on the modes of a frequency extraction, whose base state holds what is prescribed.
+bool TVO_API kprC_ProcIsModal(int procedure) noexcept;
+
+/// Walks the quads of an object from the first step on and derives every step's status and effective state from what the
+/// user stored in the quads.
+///
+/// The members are the walk's running values; a family's differences are hooks. A family's class runs the walk at the end
+/// of its constructor. Quads whose result is what they held already are left as they are, identity and sharing included.
+template <class Family>
+class TVO_API kprC_Propagator {
+ public:
+  using Owner = typename Family::Object;
+  using State = typename Family::State;
+  using Quad = kprC_PropagatingState<State>;
+  using Quads = cls_xoList<Quad>;
+  using StateHolder = typename Quad::StateHolder;
+
+  virtual ~kprC_Propagator() = default;
+
+  /// The quads as they are to be, and whether any differs from what was given.
+  Quads const& Result() const noexcept { return output_; }
+  bool Changed() const noexcept { return changed_; }
+
+  /// Raises the family's refusal for one of the walk's faults.
+  virtual void ErrorHandler(kprC_PropErrorEnum error) const;
+  virtual bool CheckValidStep(int procedure) const;
+  virtual mdl_PropagationStatusEnm GetInvalidStatus(int procedure) const;
+  /// For a frequency step that creates a perturbation object: prepares the modal base. Others answer false.
+  virtual bool CheckFrequency(int procedure);
+
+ protected:
+  kprC_Propagator(Owner const& owner, Quads const& quads) : owner_(owner), input_(quads), output_(quads) {}
+
+  /// The walk; refused if no quad holds a state.
+  void Run();
+
+  // Hooks, in the order in which the walk comes to them.
+  virtual bool IsPerturbationObject(Quad const& creating) const { return creating.HasStep() && creating.Step().Perturbation(); }
+  virtual void EnterStep(Quad const& quad);
+  virtual void Perturb(int procedure);
+  virtual void Propagate(Quad const& next);
+  virtual void Modify(Quad const& quad);
+  virtual void Deactivate(int procedure);
+  virtual void DeactivateBaseState(int procedure);
+  /// The status to record for the running one.
+  virtual mdl_PropagationStatusEnm RecordedStatus(mdl_PropagationStatusEnm status) const { return status; }
+
+  void PropagateGenAnalysisObject();
+  void PropagatePerturbationObject(int creatingIndex);
+
+  /// All that a suppressed step must not change for the steps behind it.
+  struct Running {
+    mdl_PropagationStatusEnm status = STATUS_NONE;
+    StateHolder state;
+    mdl_PropagationStatusEnm baseStatus = STATUS_NONE;
+    StateHolder baseState;
+    bool perturbed = false;
+    bool frequencyDeactivated = false;
+  };
+
+  /// Drops the running state, or the base's.
+  void DropState() { running_.state = nullptr; }
+  void SaveBase();
+  void RestoreBase();
+  void Record(int index, mdl_PropagationStatusEnm status);
+
+  Owner const& owner_;
+  Quads const input_;
+  Quads output_;
+  bool changed_ = false;
+  bool created_ = false;
+  Running running_;
+};

@@ -1,0 +1,266 @@
+#pragma once
+
+// The walk's code, for the one source of a family that instantiates it.
+
+#include "kprC_Propagator.h"
+
+template <class Family>
+void kprC_Propagator<Family>::Run() {
+  int creating = 0;
+  while (creating < input_.Length() && input_.UncheckedConstGet(creating).state.IsNull()) {
+    ++creating;
+  }
+  if (creating == input_.Length()) {
+    ErrorHandler(PROP_NO_STATE);
+  }
+  if (IsPerturbationObject(input_.UncheckedConstGet(creating))) {
+    PropagatePerturbationObject(creating);
+  } else {
+    PropagateGenAnalysisObject();
+  }
+}
+
+template <class Family>
+void kprC_Propagator<Family>::PropagateGenAnalysisObject() {
+  bool deactivationPending = false;
+  bool deactivationHonoured = false;
+  StateHolder pendingState;
+  int index = 0;
+  for (Quad const& quad : input_) {
+    bool const suppressed = quad.IsStepSuppressed();
+    int const procedure = quad.Procedure();
+    std::optional<Running> const before = suppressed ? std::optional(running_) : std::nullopt;
+    if (created_) {
+      EnterStep(quad);
+    }
+    if (quad.state.HasValue()) {
+      Modify(quad);
+    }
+    mdl_PropagationStatusEnm status = RecordedStatus(running_.status);
+    if (quad.HasStep() && running_.status != STATUS_NONE && !CheckValidStep(procedure)) {
+      status = GetInvalidStatus(procedure);
+      if (running_.status == STATUS_DEACTIVATED && running_.state.HasValue()) {
+        if (!suppressed) {
+          deactivationPending = true;
+          pendingState = running_.state;
+        }
+        running_.state.Get().deactivate = false;
+      }
+    }
+    if (deactivationPending && !deactivationHonoured) {
+      if (status == STATUS_INACTIVE) {
+        // The step that deactivated does not take the type, so the next that does holds the deactivation instead.
+        status = running_.status = STATUS_DEACTIVATED;
+        running_.state = pendingState;
+        running_.state.Get().deactivate = true;
+        running_.state.Get().NewUid();
+      }
+      deactivationHonoured = status == STATUS_DEACTIVATED && !suppressed;
+    }
+    Record(index++, status);
+    if (before && status != STATUS_CREATED) {
+      running_ = *before;
+    }
+  }
+}
+
+template <class Family>
+void kprC_Propagator<Family>::PropagatePerturbationObject(int creatingIndex) {
+  mdl_PropagationStatusEnm const beforeCreation = Family::Rules().beforePerturbation;
+  bool modal = false;
+  for (int index = 0; index < input_.Length(); ++index) {
+    Quad const& quad = input_.UncheckedConstGet(index);
+    std::optional<Running> const before = quad.IsStepSuppressed() ? std::optional(running_) : std::nullopt;
+    bool const modalBefore = modal;
+    int const procedure = quad.Procedure();
+    if (index == creatingIndex) {
+      created_ = true;
+      running_.perturbed = true;
+      running_.state = quad.state;
+      running_.status = STATUS_CREATED;
+      modal = CheckFrequency(procedure);
+    } else if (modal && kprC_ProcIsModal(procedure)) {
+      Perturb(procedure);
+    } else {
+      modal = false;
+      DropState();
+      running_.status = created_ ? STATUS_INSTANCE_INVALID : beforeCreation;
+    }
+    Record(index, running_.status);
+    if (before && running_.status != STATUS_CREATED) {
+      running_ = *before;
+      modal = modalBefore;
+    }
+  }
+}
+
+template <class Family>
+void kprC_Propagator<Family>::Record(int index, mdl_PropagationStatusEnm status) {
+  Quad const& old = input_.UncheckedConstGet(index);
+  bool const sameState = cls_Codec<StateHolder>::Equal(old.state, running_.state);
+  if (sameState) {
+    running_.state = old.state;
+    if (old.status == status) {
+      return;
+    }
+  }
+  changed_ = true;
+  Quad& quad = output_.Get(index);
+  quad.status = status;
+  quad.state = running_.state;
+}
+
+template <class Family>
+void kprC_Propagator<Family>::EnterStep(Quad const& quad) {
+  if (quad.HasStep() && (quad.Step().Perturbation() || kprC_ProcIsModal(quad.Procedure()))) {
+    Perturb(quad.Procedure());
+  } else {
+    Propagate(quad);
+  }
+}
+
+template <class Family>
+void kprC_Propagator<Family>::SaveBase() {
+  running_.baseState = running_.state;
+  running_.baseStatus = running_.status;
+}
+
+template <class Family>
+void kprC_Propagator<Family>::RestoreBase() {
+  running_.state = std::move(running_.baseState);
+  running_.baseState = nullptr;
+  running_.status = running_.baseStatus;
+  running_.baseStatus = STATUS_NONE;
+  running_.perturbed = false;
+}
+
+template <class Family>
+void kprC_Propagator<Family>::Propagate(Quad const& next) {
+  if (running_.perturbed) {
+    RestoreBase();
+  }
+  bool const computed = owner_.IsValueComputed(running_.status);
+  if (owner_.IsActive(running_.status) || computed) {
+    bool const settled = next.state.HasValue() && running_.state.HasValue() && !next.state.ConstGet().deactivate &&
+                         next.state.ConstGet().IsPropagationOf(running_.state.ConstGet());
+    if (settled) {
+      running_.state = next.state;
+    } else if (running_.state.HasValue()) {
+      State& state = running_.state.Get();
+      state.Propagate();
+      state.NewUid();
+    }
+    running_.status = computed ? STATUS_COMPUTED_PROPAGATED : STATUS_PROPAGATED;
+  } else if (running_.status == STATUS_DEACTIVATED || running_.status == STATUS_COMPUTED_DEACTIVATED) {
+    DropState();
+    running_.status = STATUS_INACTIVE;
+  }
+}
+
+/// What was active in the general steps is built into the state on which a perturbation works.
+template <class Family>
+void kprC_Propagator<Family>::Perturb(int) {
+  if (!running_.perturbed) {
+    SaveBase();
+  }
+  DropState();
+  running_.status = running_.baseStatus == STATUS_DEACTIVATED    ? STATUS_INACTIVE
+                    : owner_.IsActive(running_.baseStatus) ? STATUS_BUILT_IN
+                                                           : running_.baseStatus;
+  running_.perturbed = true;
+}
+
+template <class Family>
+void kprC_Propagator<Family>::Modify(Quad const& quad) {
+  State const& edit = quad.state.ConstGet();
+  if (!owner_.IsActive(running_.status)) {
+    if (created_) {
+      // An edit in a step where the object is not active has nothing to change.
+      DropState();
+      return;
+    }
+    running_.state = quad.state;
+    running_.status = STATUS_CREATED;
+    created_ = true;
+    return;
+  }
+  if (!created_) {
+    ErrorHandler(PROP_INVALID_MODIFY);
+  }
+  if (running_.state.IsNull()) {
+    if (edit.deactivate || !running_.perturbed) {
+      ErrorHandler(PROP_INVALID_MODIFY);
+    }
+    running_.status = STATUS_BUILT_IN;
+    return;
+  }
+  if (edit.deactivate) {
+    Deactivate(quad.Procedure());
+  } else if (edit.IsModified()) {
+    State& state = running_.state.Get();
+    state.Modify(edit);
+    state.NewUid();
+    running_.status = running_.perturbed ? STATUS_BASE_MODIFIED : STATUS_MODIFIED;
+  } else if (running_.perturbed) {
+    running_.status = STATUS_BASE_PROPAGATED;
+  } else {
+    running_.status = owner_.IsValueComputed(running_.status) ? STATUS_COMPUTED_PROPAGATED : STATUS_PROPAGATED;
+  }
+}
+
+template <class Family>
+void kprC_Propagator<Family>::Deactivate(int procedure) {
+  auto const status = static_cast<std::size_t>(running_.status);
+  auto const& table = Family::Rules().deactivation;
+  switch (status < table.size() ? table[status] : kprC_Deactivation::unknown) {
+    case kprC_Deactivation::already:
+      ErrorHandler(PROP_ALREADY_DEACTIVATED);
+      break;
+    case kprC_Deactivation::deactivate:
+      running_.state.Get().deactivate = true;
+      running_.status = STATUS_DEACTIVATED;
+      break;
+    case kprC_Deactivation::nothing:
+      break;
+    case kprC_Deactivation::deactivateBase:
+      DeactivateBaseState(procedure);
+      break;
+    case kprC_Deactivation::inBaseState:
+      ErrorHandler(PROP_IN_BASE_STATE);
+      break;
+    case kprC_Deactivation::unknown:
+      ErrorHandler(PROP_UNKNOWN_STATUS);
+      break;
+  }
+}
+
+template <class Family>
+void kprC_Propagator<Family>::DeactivateBaseState(int procedure) {
+  running_.state.Get().deactivate = true;
+  running_.status = STATUS_BASE_DEACTIVATED;
+  if (procedure == static_cast<int>(kprC_Procedure::Frequency)) {
+    running_.frequencyDeactivated = true;
+  }
+}
+
+template <class Family>
+void kprC_Propagator<Family>::ErrorHandler(kprC_PropErrorEnum error) const {
+  auto const& numbers = Family::Rules().propagatorErrors;
+  auto const flag = static_cast<std::size_t>(error);
+  Family::Assert(false, flag < numbers.size() ? numbers[flag] : numbers.back());
+}
+
+template <class Family>
+bool kprC_Propagator<Family>::CheckValidStep(int procedure) const {
+  return owner_.ValidInStepButRelaxCheckOnInitial(procedure, true);
+}
+
+template <class Family>
+mdl_PropagationStatusEnm kprC_Propagator<Family>::GetInvalidStatus(int) const {
+  return STATUS_TYPE_INVALID;
+}
+
+template <class Family>
+bool kprC_Propagator<Family>::CheckFrequency(int) {
+  return false;
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "mdl_PropagatingAttribute.h"
+#include "nex_DynamicCast.h"
+
+/// What one object holds for one step: base of the states of all step-dependent families.
+///
+/// The operations over all propagating attributes follow from the class's table of attributes, so a state that holds
+/// nothing else needs no code for them. A state with other members lays its own over these operations, calling them first.
+class TVO_API kprC_StepState : public cls_Persistent {
+ public:
+  kprC_StepState* Copy() const override = 0;
+
+  /// Refuses values that no step may hold.
+  virtual void AssertValid() const {}
+  /// Lays an edit over this state. `other` must be of this state's class. Of an edit that deactivates, the family's own
+  /// attributes are left out.
+  virtual void Modify(kprC_StepState const& other);
+  /// What was given becomes inherited, what was released becomes not given.
+  virtual void Propagate();
+  /// Clears all values; the attributes' states stay.
+  virtual void Zero();
+  /// Whether this state holds something that the user did in its step.
+  virtual bool IsModified() const;
+  virtual bool IsConditionModified() const;
+
+  /// Whether a step of that procedure (0: the initial step) knows amplitudes, complex values, magnitudes.
+  virtual bool UseAmplitude(unsigned int procedure) const;
+  virtual bool UseComplex(unsigned int procedure) const;
+  virtual bool UseMagnitude(unsigned int procedure) const;
+  /// Drops what a step of that procedure does not know.
+  virtual void ChangeProcedureType(unsigned int procedure);
+
+  /// Whether this state is what Propagate() would make of `before`. It saves the copy where nothing changes.
+  bool IsPropagationOf(kprC_StepState const& before) const;
+
+  bool deactivate = false;
+};
+
+/// A state whose family has a named amplitude in each step.
+class TVO_API kprC_AmplitudeState : public kprC_StepState {
+ public:
+  kprC_AmplitudeState* Copy() const override = 0;
+  /// Takes the amplitude away where the procedure knows none.
+  void ChangeProcedureType(unsigned int procedure) override;
+
+  mdl_PropAttr<cow_String> amplitude;
+};
+
+/// Refuses an object whose class does not derive from T's.
+template <class T>
+T const& kprC_CheckedCast(cls_Persistent const& object, char const* file, int line) {
+  nex_canDynamicCastRef(T::TypeId(), object.DynTypeId(), file, line);
+  return static_cast<T const&>(object);
+}

@@ -1,0 +1,7 @@
+#include "kseC_module.h"
+
+#include "kseC_Types.h"
+
+DDR_DEFINE_MODULE(KseC, kseC, {.id = kseC_ModuleId, .types = kseC_TypeRows})
+
+void kseC_formalize() {}
