@@ -120,7 +120,11 @@ class ShortcutTest : public testing::Test {
 
 TEST_F(ShortcutTest, SavedAndReadAgainLeadsToTheSameObject) {
   ddr_Model model;
-  BCs().Get(model).ForcedInsert("Bob's", kbcC_DisplacementBC());
+  Conditions& conditions = BCs().Get(model);
+  conditions.UpdateSteps({kprC_StepNameProcedurePair("Initial", {})}, "", false);
+  kbcC_DisplacementBC condition;
+  condition.Insert("Initial", kbcC_DisplacementBCState());
+  conditions.ForcedInsert("Bob's", condition);
   shelf_Shelf shelf;
   shelf.regions.Append(rgnC_Region("top"));
   shelf.regions.Append(rgnC_Region("bottom"));

@@ -39,7 +39,7 @@ struct TVO_API kbcC_Family {
   /// Refuses a step in which the object has nothing in force, in words that name its status there.
   [[noreturn]] static void RefuseStep(mdl_PropagationStatusEnm status, cow_String const& step);
   static char const* RepositoryName() noexcept;
-  static cow_List<kprC_TypeMenu> OfferedTypes(int procedure);
+  static cow_List<kprC_OfferedMenu> OfferedTypes(int procedure);
 };
 
 extern template class kprC_StepDependent<kbcC_Family>;

@@ -123,7 +123,7 @@ class kbcC_ComponentBC : public Base {
 template <class Base>
 class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValues<Base>, Base> {
   using Values = kbcC_DisplacementValues;
-  using Components_ = kbcC_ComponentState<Values, Base>;
+  using RealComponents = kbcC_ComponentState<Values, Base>;
 
  public:
   KBCC_REAL_COMPONENTS(Values, u1, u2, u3, ur1, ur2, ur3)
@@ -153,7 +153,7 @@ class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValu
     return Base::IsModified() || complex || buckleCase != NOT_APPLICABLE;
   }
   void ChangeProcedureType(unsigned int procedure) override {
-    Components_::ChangeProcedureType(procedure);
+    RealComponents::ChangeProcedureType(procedure);
     for (auto const component : ComplexComponents()) {
       omi_complex& value = this->*component;
       if (!this->UseMagnitude(procedure)) {

@@ -32,7 +32,7 @@ void kbcC_Family::RefuseStep(mdl_PropagationStatusEnm status, cow_String const& 
 
 char const* kbcC_Family::RepositoryName() noexcept { return kbcC_BC::bcRepositoryCmd(); }
 
-cow_List<kprC_TypeMenu> kbcC_Family::OfferedTypes(int procedure) {
+cow_List<kprC_OfferedMenu> kbcC_Family::OfferedTypes(int procedure) {
   return {{"mechanical", kbcC_getMechanicalBCTypesforStep(procedure, STANDARD_ANALYSIS, 0)},
           {"fluid", kbcC_getFluidBCTypesforStep(procedure, STANDARD_ANALYSIS, 0)},
           {"electrical", kbcC_getElectricalBCTypesforStep(procedure, STANDARD_ANALYSIS, 0)},

@@ -15,7 +15,7 @@ class TVO_API kprC_PropagatingContainer final : public kprC_StepRepository {
   kprC_PropagatingContainer() { UpdateTimeStamp(cow_String()); }
 
   char const* RepositoryName() const override;
-  cow_List<kprC_TypeMenu> OfferedTypes(int procedure) const override;
+  cow_List<kprC_OfferedMenu> OfferedTypes(int procedure) const override;
   int Size() const override { return map.Size(); }
   bool IsMember(cow_String const& key) const override { return map.IsMember(key); }
   int UnsuppressedSize() const override;

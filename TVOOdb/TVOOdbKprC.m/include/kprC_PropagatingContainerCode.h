@@ -20,7 +20,7 @@ char const* kprC_PropagatingContainer<T>::RepositoryName() const {
 }
 
 template <class T>
-cow_List<kprC_TypeMenu> kprC_PropagatingContainer<T>::OfferedTypes(int procedure) const {
+cow_List<kprC_OfferedMenu> kprC_PropagatingContainer<T>::OfferedTypes(int procedure) const {
   return T::FamilyRules::OfferedTypes(procedure);
 }
 

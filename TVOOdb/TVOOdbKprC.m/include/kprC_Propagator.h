@@ -77,5 +77,6 @@ class TVO_API kprC_Propagator {
   Quads output_;
   bool changed_ = false;
   bool created_ = false;
+  bool differs_ = false;  ///< the running state is known to differ from what the quad holds
   Running running_;
 };

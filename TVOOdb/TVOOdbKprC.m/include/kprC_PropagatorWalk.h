@@ -97,7 +97,8 @@ void kprC_Propagator<Family>::PropagatePerturbationObject(int creatingIndex) {
 template <class Family>
 void kprC_Propagator<Family>::Record(int index, mdl_PropagationStatusEnm status) {
   Quad const& old = input_.UncheckedConstGet(index);
-  bool const sameState = cls_Codec<StateHolder>::Equal(old.state, running_.state);
+  bool const sameState = !differs_ && cls_Codec<StateHolder>::Equal(old.state, running_.state);
+  differs_ = false;
   if (sameState) {
     running_.state = old.state;
     if (old.status == status) {
@@ -143,6 +144,7 @@ void kprC_Propagator<Family>::Propagate(Quad const& next) {
   if (owner_.IsActive(running_.status) || computed) {
     bool const settled = next.state.HasValue() && running_.state.HasValue() && !next.state.ConstGet().deactivate &&
                          next.state.ConstGet().IsPropagationOf(running_.state.ConstGet());
+    differs_ = !settled && next.state.HasValue();
     if (settled) {
       running_.state = next.state;
     } else if (running_.state.HasValue()) {
@@ -195,8 +197,10 @@ void kprC_Propagator<Family>::Modify(Quad const& quad) {
     return;
   }
   if (edit.deactivate) {
+    differs_ = false;
     Deactivate(quad.Procedure());
   } else if (edit.IsModified()) {
+    differs_ = false;
     State& state = running_.state.Get();
     state.Modify(edit);
     state.NewUid();

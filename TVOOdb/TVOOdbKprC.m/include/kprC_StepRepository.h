@@ -25,7 +25,7 @@ class TVO_API kprC_RegionUse {
 };
 
 /// One menu of the types that can be created in a step: its name ("mechanical") and the labels on offer.
-struct kprC_TypeMenu {
+struct kprC_OfferedMenu {
   cow_String name;
   cow_List<cow_String> labels;
 };
@@ -42,7 +42,7 @@ class TVO_API kprC_StepRepository : public mdl_Repository {
   /// Name under which scripts know the repository, such as "boundaryConditions".
   virtual char const* RepositoryName() const = 0;
   /// What can be created in a step of that procedure (0: the initial step), menu by menu.
-  virtual cow_List<kprC_TypeMenu> OfferedTypes(int procedure) const = 0;
+  virtual cow_List<kprC_OfferedMenu> OfferedTypes(int procedure) const = 0;
 
   /// Keys in ascending order.
   virtual cow_List<cow_String> Keys() const = 0;

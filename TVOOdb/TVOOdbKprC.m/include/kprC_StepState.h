@@ -10,6 +10,7 @@
 class TVO_API kprC_StepState : public cls_Persistent {
  public:
   kprC_StepState* Copy() const override = 0;
+  void NewUid() override;
 
   /// Refuses values that no step may hold.
   virtual void AssertValid() const {}

@@ -5,72 +5,93 @@
 
 namespace {
 
-/// The attributes of a class that propagate, and the others.
+/// The attributes of a class: where the propagating ones stand in its objects, and the others.
+///
+/// All objects of one class have their members at the same places, so the places are found once, on the first object.
 struct Members {
-  std::vector<cls_Attribute const*> propagating;
+  std::vector<std::ptrdiff_t> propagating;
   std::vector<cls_Attribute const*> plain;
   std::size_t ofFamily = 0;  ///< how many of the propagating ones the family's own level has; they come first
 };
 
+std::unique_ptr<Members const> FindMembers(kprC_StepState const& state) {
+  auto members = std::make_unique<Members>();
+  cls_AttributeTable const* root = &state.DynAttributes();
+  while (root->Base() != nullptr) {
+    root = root->Base();
+  }
+  for (cls_Attribute const* attribute : state.DynAttributes().All()) {
+    auto const* const embedded = dynamic_cast<mdl_PropAttrBase const*>(attribute->Embedded(state));
+    if (embedded == nullptr) {
+      members->plain.push_back(attribute);
+      continue;
+    }
+    members->propagating.push_back(reinterpret_cast<char const*>(embedded) - reinterpret_cast<char const*>(&state));
+    if (members->propagating.size() + members->plain.size() <= root->Own().size()) {
+      ++members->ofFamily;
+    }
+  }
+  return members;
+}
+
 Members const& MembersOf(kprC_StepState const& state) {
   static std::vector<std::unique_ptr<Members const>> known;
-  cls_AttributeTable const& table = state.DynAttributes();
-  auto const index = static_cast<std::size_t>(table.Index());
+  auto const index = static_cast<std::size_t>(state.DynAttributes().Index());
   if (index >= known.size()) {
     known.resize(index + 1);
   }
   if (known[index] == nullptr) {
-    auto members = std::make_unique<Members>();
-    cls_AttributeTable const* root = &table;
-    while (root->Base() != nullptr) {
-      root = root->Base();
-    }
-    for (cls_Attribute const* attribute : table.All()) {
-      bool const propagates = dynamic_cast<mdl_PropAttrBase const*>(attribute->Embedded(state)) != nullptr;
-      (propagates ? members->propagating : members->plain).push_back(attribute);
-      if (propagates && members->propagating.size() + members->plain.size() <= root->Own().size()) {
-        ++members->ofFamily;
-      }
-    }
-    known[index] = std::move(members);
+    known[index] = FindMembers(state);
   }
   return *known[index];
 }
 
-mdl_PropAttrBase& Propagating(cls_Attribute const* attribute, kprC_StepState& state) {
-  return static_cast<mdl_PropAttrBase&>(*attribute->Embedded(state));
+mdl_PropAttrBase& At(kprC_StepState& state, std::ptrdiff_t place) {
+  return *reinterpret_cast<mdl_PropAttrBase*>(reinterpret_cast<char*>(&state) + place);
 }
-
-mdl_PropAttrBase const& Propagating(cls_Attribute const* attribute, kprC_StepState const& state) {
-  return static_cast<mdl_PropAttrBase const&>(*attribute->Embedded(state));
+mdl_PropAttrBase const& At(kprC_StepState const& state, std::ptrdiff_t place) {
+  return *reinterpret_cast<mdl_PropAttrBase const*>(reinterpret_cast<char const*>(&state) + place);
 }
 
 }  // namespace
+
+void kprC_StepState::NewUid() {
+  Members const& members = MembersOf(*this);
+  uid_.NewUid();
+  for (std::ptrdiff_t const place : members.propagating) {
+    At(*this, place).mdl_PropAttrBase::NewUid();
+  }
+  for (cls_Attribute const* attribute : members.plain) {
+    if (attribute->HasIdentity()) {
+      attribute->NewUid(*this);
+    }
+  }
+}
 
 void kprC_StepState::Modify(kprC_StepState const& other) {
   deactivate = other.deactivate;
   nex_canDynamicCastRef(DynTypeId(), other.DynTypeId(), __FILE__, __LINE__);
   Members const& members = MembersOf(*this);
   for (std::size_t i = deactivate ? members.ofFamily : 0; i < members.propagating.size(); ++i) {
-    Propagating(members.propagating[i], *this).Modify(Propagating(members.propagating[i], other));
+    At(*this, members.propagating[i]).Modify(At(other, members.propagating[i]));
   }
 }
 
 void kprC_StepState::Propagate() {
-  for (cls_Attribute const* attribute : MembersOf(*this).propagating) {
-    Propagating(attribute, *this).Propagate();
+  for (std::ptrdiff_t const place : MembersOf(*this).propagating) {
+    At(*this, place).Propagate();
   }
 }
 
 void kprC_StepState::Zero() {
-  for (cls_Attribute const* attribute : MembersOf(*this).propagating) {
-    Propagating(attribute, *this).Zero();
+  for (std::ptrdiff_t const place : MembersOf(*this).propagating) {
+    At(*this, place).Zero();
   }
 }
 
 bool kprC_StepState::IsModified() const {
-  for (cls_Attribute const* attribute : MembersOf(*this).propagating) {
-    if (Propagating(attribute, *this).IsModified()) {
+  for (std::ptrdiff_t const place : MembersOf(*this).propagating) {
+    if (At(*this, place).IsModified()) {
       return true;
     }
   }
@@ -78,8 +99,8 @@ bool kprC_StepState::IsModified() const {
 }
 
 bool kprC_StepState::IsConditionModified() const {
-  for (cls_Attribute const* attribute : MembersOf(*this).propagating) {
-    if (Propagating(attribute, *this).IsConditionModified()) {
+  for (std::ptrdiff_t const place : MembersOf(*this).propagating) {
+    if (At(*this, place).IsConditionModified()) {
       return true;
     }
   }
@@ -96,8 +117,8 @@ bool kprC_StepState::IsPropagationOf(kprC_StepState const& before) const {
     return false;
   }
   Members const& members = MembersOf(*this);
-  for (cls_Attribute const* attribute : members.propagating) {
-    if (!Propagating(attribute, *this).IsPropagationOf(Propagating(attribute, before))) {
+  for (std::ptrdiff_t const place : members.propagating) {
+    if (!At(*this, place).IsPropagationOf(At(before, place))) {
       return false;
     }
   }

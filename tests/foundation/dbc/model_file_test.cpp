@@ -20,15 +20,16 @@ namespace {
 std::size_t largestAllocation = 0;
 }
 
-void* operator new(std::size_t size) {
+// Not inlined, or the compiler sees only one half of a pair and warns.
+[[gnu::noinline]] void* operator new(std::size_t size) {
   largestAllocation = std::max(largestAllocation, size);
   if (void* const block = std::malloc(size)) {
     return block;
   }
   throw std::bad_alloc();
 }
-void operator delete(void* block) noexcept { std::free(block); }
-void operator delete(void* block, std::size_t) noexcept { std::free(block); }
+[[gnu::noinline]] void operator delete(void* block) noexcept { std::free(block); }
+[[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept { std::free(block); }
 
 namespace {
 

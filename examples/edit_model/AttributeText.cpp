@@ -1,0 +1,80 @@
+#include "AttributeText.h"
+
+#include "mdl_PropagatingAttribute.h"
+
+namespace {
+
+using State = omu_PrimEnum<mdl_PropAttributeStateEnm, 1>;
+
+/// What a class calls the list of an object's states.
+constexpr char const* listOfStates = "states";
+
+/// The attribute in that object if it is a propagating one, else null.
+mdl_PropAttrBase* Propagating(cls_Attribute const& attribute, cls_Persistent& object) {
+  return dynamic_cast<mdl_PropAttrBase*>(attribute.Embedded(object));
+}
+
+std::string KeysOf(cls_AttributeTable const& table) {
+  std::string keys;
+  for (cls_Attribute const* attribute : table.All()) {
+    keys.append(keys.empty() ? "" : ", ").append(attribute->declared.field.name.View());
+  }
+  return keys;
+}
+
+}  // namespace
+
+std::vector<AttributeRow> AttributeRows(cls_Persistent const& object) {
+  std::vector<AttributeRow> rows;
+  for (cls_Attribute const* attribute : object.DynAttributes().All()) {
+    cow_String const& key = attribute->declared.field.name;
+    if (key == listOfStates) continue;
+    auto const* const propagating = dynamic_cast<mdl_PropAttrBase const*>(attribute->Embedded(object));
+    if (propagating == nullptr) {
+      rows.push_back({key.CStr(), attribute->Text(object), ""});
+    } else {
+      rows.push_back({key.CStr(), propagating->ValueText(), State(propagating->State()).AsString().CStr()});
+    }
+  }
+  return rows;
+}
+
+void SetAttribute(cls_Persistent& object, Setting const& setting, bool createStep) {
+  cls_AttributeTable const& table = object.DynAttributes();
+  cls_Attribute const* const attribute = table.Find(setting.key);
+  if (attribute == nullptr) {
+    throw Unreadable("a key of " + std::string(table.Name().View()) + " (" + KeysOf(table) + "), not " + setting.key);
+  }
+  mdl_PropAttrBase* const propagating = Propagating(*attribute, object);
+  bool const isState = setting.value == "SET" || setting.value == "FREED" || setting.value == "UNSET";
+  if (propagating != nullptr && isState) {
+    propagating->SetStatus(setting.key.c_str(), State(cow_String(setting.value)), createStep);
+    return;
+  }
+  bool const read = propagating != nullptr ? propagating->SetValueText(setting.value)
+                                           : attribute->SetText(object, setting.value);
+  if (!read) {
+    throw Unreadable(std::string(propagating != nullptr ? propagating->Expected() : attribute->Expected()) + " for " +
+                     setting.key);
+  }
+}
+
+cls_ClassMetadata const& FindType(std::string const& name, std::function<bool(cls_AttributeTable const&)> const& fits,
+                                  char const* expected) {
+  std::string names;
+  for (auto const& [id, type] : cls_ClassRegistrar::Present().All()) {
+    cls_AttributeTable const* const table = type->Attributes();
+    if (table == nullptr || table->ScriptingName().IsEmpty() || !fits(*table)) continue;
+    if (table->ScriptingName() == name.c_str()) return *type;
+    names.append(names.empty() ? "" : ", ").append(table->ScriptingName().View());
+  }
+  throw Unreadable(expected + (" (" + names) + "), not " + name);
+}
+
+std::unique_ptr<cls_Persistent> NewObject(cls_ClassMetadata const& type) {
+  return std::unique_ptr<cls_Persistent>(type.New());
+}
+
+std::unique_ptr<cls_Persistent> NewObject(cls_AttributeTable const& table) {
+  return NewObject(cls_ClassRegistrar::Present().Get(table.TypeId()));
+}
