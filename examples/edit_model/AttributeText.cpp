@@ -9,17 +9,20 @@ using State = omu_PrimEnum<mdl_PropAttributeStateEnm, 1>;
 /// What a class calls the list of an object's states.
 constexpr char const* listOfStates = "states";
 
-/// The attribute in that object if it is a propagating one, else null.
-mdl_PropAttrBase* Propagating(cls_Attribute const& attribute, cls_Persistent& object) {
-  return dynamic_cast<mdl_PropAttrBase*>(attribute.Embedded(object));
-}
+bool IsState(std::string const& value) { return value == "SET" || value == "FREED" || value == "UNSET"; }
 
-std::string KeysOf(cls_AttributeTable const& table) {
-  std::string keys;
-  for (cls_Attribute const* attribute : table.All()) {
-    keys.append(keys.empty() ? "" : ", ").append(attribute->declared.field.name.View());
+void SetIn(cls_Persistent& object, cls_Attribute const& attribute, Setting const& setting, bool createStep) {
+  auto* const propagating = dynamic_cast<mdl_PropAttrBase*>(attribute.Embedded(object));
+  if (propagating != nullptr && IsState(setting.value)) {
+    propagating->SetStatus(setting.key.c_str(), State(cow_String(setting.value)), createStep);
+    return;
   }
-  return keys;
+  bool const read = propagating != nullptr ? propagating->SetValueText(setting.value)
+                                           : attribute.SetText(object, setting.value);
+  if (!read) {
+    char const* const expected = propagating != nullptr ? propagating->Expected() : attribute.Expected();
+    throw Unreadable(expected + (" for " + setting.key));
+  }
 }
 
 }  // namespace
@@ -39,24 +42,18 @@ std::vector<AttributeRow> AttributeRows(cls_Persistent const& object) {
   return rows;
 }
 
-void SetAttribute(cls_Persistent& object, Setting const& setting, bool createStep) {
-  cls_AttributeTable const& table = object.DynAttributes();
-  cls_Attribute const* const attribute = table.Find(setting.key);
-  if (attribute == nullptr) {
-    throw Unreadable("a key of " + std::string(table.Name().View()) + " (" + KeysOf(table) + "), not " + setting.key);
+void SetAttribute(std::initializer_list<cls_Persistent*> objects, Setting const& setting, bool createStep) {
+  std::string keys;
+  for (cls_Persistent* object : objects) {
+    cls_AttributeTable const& table = object->DynAttributes();
+    if (cls_Attribute const* const attribute = table.Find(setting.key)) {
+      return SetIn(*object, *attribute, setting, createStep);
+    }
+    for (cls_Attribute const* attribute : table.All()) {
+      keys.append(keys.empty() ? "" : ", ").append(attribute->declared.field.name.View());
+    }
   }
-  mdl_PropAttrBase* const propagating = Propagating(*attribute, object);
-  bool const isState = setting.value == "SET" || setting.value == "FREED" || setting.value == "UNSET";
-  if (propagating != nullptr && isState) {
-    propagating->SetStatus(setting.key.c_str(), State(cow_String(setting.value)), createStep);
-    return;
-  }
-  bool const read = propagating != nullptr ? propagating->SetValueText(setting.value)
-                                           : attribute->SetText(object, setting.value);
-  if (!read) {
-    throw Unreadable(std::string(propagating != nullptr ? propagating->Expected() : attribute->Expected()) + " for " +
-                     setting.key);
-  }
+  throw Unreadable("one of the keys " + keys + ", not " + setting.key);
 }
 
 cls_ClassMetadata const& FindType(std::string const& name, std::function<bool(cls_AttributeTable const&)> const& fits,

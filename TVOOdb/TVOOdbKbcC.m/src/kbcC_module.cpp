@@ -1,9 +1,6 @@
 #include "kbcC_module.h"
 
-#include "kbcC_BCTypes.h"
-#include "kbcC_DisplacementBC.h"
-#include "kbcC_ModelMembers.h"
-#include "kbcC_Types.h"
+#include "kbcC.h"
 #include "mdl_PropagatingAttribute.h"
 
 namespace {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "kprC_PropagatingState.h"
 #include "kprC_Procedures.h"
@@ -25,9 +26,11 @@ class TVO_API kprC_Propagator {
 
   virtual ~kprC_Propagator() = default;
 
-  /// The quads as they are to be, and whether any differs from what was given.
-  Quads const& Result() const noexcept { return output_; }
-  bool Changed() const noexcept { return changed_; }
+  /// Whether any quad is to be other than it was given.
+  bool Changed() const noexcept { return !changes_.empty(); }
+  /// Makes the quads that the walk was given what they are to be. They stay as they are until then, so a walk that is
+  /// refused has changed nothing.
+  void ApplyTo(Quads& quads);
 
   /// Raises the family's refusal for one of the walk's faults.
   virtual void ErrorHandler(kprC_PropErrorEnum error) const;
@@ -37,7 +40,8 @@ class TVO_API kprC_Propagator {
   virtual bool CheckFrequency(int procedure);
 
  protected:
-  kprC_Propagator(Owner const& owner, Quads const& quads) : owner_(owner), input_(quads), output_(quads) {}
+  /// `quads` must live as long as the walk.
+  kprC_Propagator(Owner const& owner, Quads const& quads) : owner_(owner), input_(quads) {}
 
   /// The walk; refused if no quad holds a state.
   void Run();
@@ -72,10 +76,15 @@ class TVO_API kprC_Propagator {
   void RestoreBase();
   void Record(int index, mdl_PropagationStatusEnm status);
 
+  struct Change {
+    int index;
+    mdl_PropagationStatusEnm status;
+    StateHolder state;
+  };
+
   Owner const& owner_;
-  Quads const input_;
-  Quads output_;
-  bool changed_ = false;
+  Quads const& input_;
+  std::vector<Change> changes_;
   bool created_ = false;
   bool differs_ = false;  ///< the running state is known to differ from what the quad holds
   Running running_;

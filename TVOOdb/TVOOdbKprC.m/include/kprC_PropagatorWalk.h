@@ -105,10 +105,20 @@ void kprC_Propagator<Family>::Record(int index, mdl_PropagationStatusEnm status)
       return;
     }
   }
-  changed_ = true;
-  Quad& quad = output_.Get(index);
-  quad.status = status;
-  quad.state = running_.state;
+  if (changes_.empty()) {
+    changes_.reserve(static_cast<std::size_t>(input_.Length() - index));
+  }
+  changes_.push_back({index, status, running_.state});
+}
+
+template <class Family>
+void kprC_Propagator<Family>::ApplyTo(Quads& quads) {
+  for (Change& change : changes_) {
+    Quad& quad = quads.Get(change.index);
+    quad.status = change.status;
+    quad.state = std::move(change.state);
+  }
+  changes_.clear();
 }
 
 template <class Family>

@@ -414,9 +414,9 @@ void kprC_StepDependent<Family>::ReplaceStep(cow_String const& step) {
 
 template <class Family>
 void kprC_StepDependent<Family>::Walk() {
-  typename Family::Propagator const propagator(Self(), states);
+  typename Family::Propagator propagator(Self(), states);
   if (propagator.Changed()) {
-    states = propagator.Result();
+    propagator.ApplyTo(states);
     states.NewUid();
   }
 }

@@ -40,13 +40,13 @@ class PlaceholderCommand {
   PlaceholderCommand& operator=(PlaceholderCommand const&) = delete;
 };
 
-void NoteInsertion(cow_String const& name, int index) {
+void NoteInsertion(cow_String const& name, cow_List<cow_String> const& order) {
   cow_List<cow_String> const& commands = omu_CmdHistory::Instance().GetHistory();
   // A command that begins with the word is the session's own and is not undone; elsewhere in it the word means nothing.
   if (commands.IsEmpty() || commands.Last().Find("session", 0) == 0) return;
   omu_ChangeHistory::Instance().addChange(
       commands.Last() + "." + name,
-      omu_PrimTuple{omu_Prim(cow_String("Insert")), omu_ReturnPrim(name), omu_ReturnPrim(index)});
+      omu_PrimTuple{omu_Prim(cow_String("Insert")), omu_ReturnPrim(name), omu_ReturnPrim(order.FindMember(name))});
 }
 
 }  // namespace
@@ -102,7 +102,7 @@ bool kprC_StepContainer::InsertAfter(cow_String const& after, cow_String const& 
                                      bool loading) {
   bool const taken = EnterAfter(after, name, Holder(step));
   if (!loading) kprC_StepSequencer(*this, false).Run();
-  if (taken) NoteInsertion(name, order_.FindMember(name));
+  if (taken) NoteInsertion(name, order_);
   return taken;
 }
 

@@ -228,9 +228,9 @@ struct cls_Codec<cow_COW<T, Policy>> {
       return Holder(Construct(inner));
     }
     static char const holderType = 0;
-    for (auto const& [type, holder] : shared->holders) {
-      if (type == &holderType) {
-        return *static_cast<Holder const*>(holder.get());
+    for (auto const& [known, sharedHolder] : shared->holders) {
+      if (known == &holderType) {
+        return *static_cast<Holder const*>(sharedHolder.get());
       }
     }
     if (shared->reading) {

@@ -10,7 +10,8 @@ namespace {
 // The first byte is no text, the line end is what a transfer as text would change.
 constexpr std::array<std::uint8_t, 8> magic = {0x89, 'T', 'V', 'O', 'D', 'B', '\r', '\n'};
 
-constexpr std::uint64_t factors[] = {0x9e3779b97f4a7c15u, 0xc2b2ae3d27d4eb4fu, 0xff51afd7ed558ccdu, 0x165667b19e3779f9u};
+constexpr std::uint64_t factors[] = {0x9e3779b97f4a7c15u, 0xc2b2ae3d27d4eb4fu, 0xff51afd7ed558ccdu,
+                                     0x165667b19e3779f9u};
 
 /// Invertible in each of its arguments: what differs in one of them stays different.
 std::uint64_t Mix(std::uint64_t sum, std::uint64_t word) {
@@ -39,7 +40,8 @@ std::uint64_t SectionChecksum(std::uint8_t const* head, std::span<std::uint8_t c
 }
 
 /// The section whose head stands at `offset`; its content lies within the file.
-dbc_Section ReadHead(std::span<std::uint8_t const> file, std::string_view name, std::size_t offset, std::size_t number) {
+dbc_Section ReadHead(std::span<std::uint8_t const> file, std::string_view name, std::size_t offset,
+                     std::size_t number) {
   std::string const numbered = std::to_string(number);
   dbc_ByteReader in(name, numbered, file.data(), offset, file.size() - offset);
   std::uint8_t const* const head = in.Take(dbc_SectionHeadSize);
@@ -142,7 +144,8 @@ std::vector<dbc_Section> dbc_ListSections(std::span<std::uint8_t const> file, co
   }
   for (dbc_Section const& section : sections) {
     std::uint8_t const* const head = &file[section.offset - dbc_SectionHeadSize];
-    if (SectionChecksum(head, file.subspan(section.offset, section.length)) != dbc_LoadLittle<std::uint64_t>(head + 16)) {
+    auto const content = file.subspan(section.offset, section.length);
+    if (SectionChecksum(head, content) != dbc_LoadLittle<std::uint64_t>(head + 16)) {
       dbc_RefuseDamage(name.View(), section.name, section.offset, "the checksum does not agree with the content");
     }
   }

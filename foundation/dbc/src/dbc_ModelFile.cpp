@@ -220,6 +220,9 @@ void CheckReferences(cls_Database const& database) {
 
 std::vector<std::uint8_t> dbc_EncodeDatabase(cls_Database const& database, int schemaRevision) {
   // What could not be opened again is not written.
+  if (schemaRevision < 0 || schemaRevision > dbc_SchemaRevision) {
+    cls_RefuseStored("header", cls_NoRow, "the schema revision is none that this release reads");
+  }
   CheckReferences(database);
   return dbc_AssembleFile(schemaRevision, dbc_EncodeSections(database));
 }
@@ -272,8 +275,9 @@ std::unique_ptr<cls_Persistent> dbc_OpenObject(cow_String const& path, unsigned 
   std::unique_ptr<cls_Persistent> object = dbc_OpenObject(path);
   if (!cls_ClassRegistrar::InheritanceCheck(object->DynTypeId(), typeId)) {
     cls_ClassMetadata const* const wanted = cls_ClassRegistrar::Present().Find(typeId);
-    std::string const text = std::string(path.CStr()) + ": holds a " + object->DynAttributes().Name().CStr() + ", not a " +
-                             (wanted == nullptr ? std::to_string(typeId) : wanted->Name().CStr());
+    std::string const wantedName = wanted == nullptr ? std::to_string(typeId) : wanted->Name().CStr();
+    std::string const text =
+        std::string(path.CStr()) + ": holds a " + object->DynAttributes().Name().CStr() + ", not a " + wantedName;
     StoredRefusal(cow_String(text)).Throw(__FILE__, __LINE__);
   }
   return object;

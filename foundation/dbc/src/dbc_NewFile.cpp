@@ -54,7 +54,7 @@ std::string FolderOf(std::string const& path) {
   return folder.empty() ? "." : folder;
 }
 
-/// A file under a temporary name beside the one that it is to replace; it is gone again unless it took that one's place.
+/// A file under a temporary name beside the one that it is to replace; gone again unless it took that one's place.
 class NewFile {
  public:
   explicit NewFile(std::string target)

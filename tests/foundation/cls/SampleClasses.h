@@ -30,8 +30,9 @@ class smp_Mark : public cls_Persistent {
   smp_ColourEnm state = RED;
 };
 inline cls_AttributeTable const& smp_Mark::Attributes() {
-  static auto const table =
-      cls_Describe<smp_Mark>("smp_Mark", 203).Attribute(4, "val", &smp_Mark::value).Attribute(2, "state", &smp_Mark::state);
+  static auto const table = cls_Describe<smp_Mark>("smp_Mark", 203)
+                                .Attribute(4, "val", &smp_Mark::value)
+                                .Attribute(2, "state", &smp_Mark::state);
   return table;
 }
 
@@ -44,8 +45,9 @@ class smp_Shape : public cls_Persistent {
   smp_Mark mark;
 };
 inline cls_AttributeTable const& smp_Shape::Attributes() {
-  static auto const table =
-      cls_Describe<smp_Shape>("smp_Shape", 1327).Attribute("label", &smp_Shape::label).Attribute("mark", &smp_Shape::mark);
+  static auto const table = cls_Describe<smp_Shape>("smp_Shape", 1327)
+                                .Attribute("label", &smp_Shape::label)
+                                .Attribute("mark", &smp_Shape::mark);
   return table;
 }
 
@@ -197,7 +199,8 @@ class smp_Registration {
   }
   ~smp_Registration() {
     for (typ_Row const& row : smp_rows) {
-      cls_ClassRegistrar::Present().DeleteClass(row.name, (unsigned{smp_moduleId} << 16) | static_cast<unsigned>(row.row));
+      unsigned int const typeId = (unsigned{smp_moduleId} << 16) | static_cast<unsigned int>(row.row);
+      cls_ClassRegistrar::Present().DeleteClass(row.name, typeId);
     }
     types_.Remove();
   }

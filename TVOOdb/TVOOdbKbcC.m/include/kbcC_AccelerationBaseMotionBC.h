@@ -1,0 +1,22 @@
+#pragma once
+
+#include "kbcC_BaseMotionBC.h"
+
+class TVO_API kbcC_AccelerationBaseMotionBCState final : public kbcC_BaseMotionBCState {
+  CLS_PERSISTENT(kbcC, kbcC_AccelerationBaseMotionBCState)
+
+ public:
+  kbcC_AccelerationBaseMotionBCState() = default;
+  KPRC_NAMED_CMD(pythonTypeName, "AccelerationBaseMotionBCState")
+};
+
+/// An acceleration of the base.
+class TVO_API kbcC_AccelerationBaseMotionBC final : public kbcC_BaseMotionBC {
+  CLS_PERSISTENT(kbcC, kbcC_AccelerationBaseMotionBC)
+
+ public:
+  kbcC_AccelerationBaseMotionBC() = default;
+  kbcC_AccelerationBaseMotionBCState const& ConstGetState(cow_String const& step) const;
+
+  KPRC_NAMED_CMD(constructorCmd, "AccelerationBaseMotionBC")
+};

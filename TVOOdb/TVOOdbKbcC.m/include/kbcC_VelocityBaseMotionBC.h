@@ -1,0 +1,22 @@
+#pragma once
+
+#include "kbcC_BaseMotionBC.h"
+
+class TVO_API kbcC_VelocityBaseMotionBCState final : public kbcC_BaseMotionBCState {
+  CLS_PERSISTENT(kbcC, kbcC_VelocityBaseMotionBCState)
+
+ public:
+  kbcC_VelocityBaseMotionBCState() = default;
+  KPRC_NAMED_CMD(pythonTypeName, "VelocityBaseMotionBCState")
+};
+
+/// A velocity of the base.
+class TVO_API kbcC_VelocityBaseMotionBC final : public kbcC_BaseMotionBC {
+  CLS_PERSISTENT(kbcC, kbcC_VelocityBaseMotionBC)
+
+ public:
+  kbcC_VelocityBaseMotionBC() = default;
+  kbcC_VelocityBaseMotionBCState const& ConstGetState(cow_String const& step) const;
+
+  KPRC_NAMED_CMD(constructorCmd, "VelocityBaseMotionBC")
+};

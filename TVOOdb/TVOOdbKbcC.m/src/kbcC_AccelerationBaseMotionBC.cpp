@@ -1,0 +1,18 @@
+#include "kbcC_AccelerationBaseMotionBC.h"
+
+cls_AttributeTable const& kbcC_AccelerationBaseMotionBCState::Attributes() {
+  static auto const table = cls_Describe<kbcC_AccelerationBaseMotionBCState, kbcC_BaseMotionBCState>("kbcC_AccelerationBaseMotionBCState", 203);
+  return table;
+}
+
+cls_AttributeTable const& kbcC_AccelerationBaseMotionBC::Attributes() {
+  static auto const table = cls_Describe<kbcC_AccelerationBaseMotionBC, kbcC_BaseMotionBC>("kbcC_AccelerationBaseMotionBC", 203)
+                                .Constructor(constructorCmd())
+                                .VariesBy<kbcC_AccelerationBaseMotionBCState>();
+  return table;
+}
+
+kbcC_AccelerationBaseMotionBCState const& kbcC_AccelerationBaseMotionBC::ConstGetState(cow_String const& step) const {
+  CheckStep(step);
+  return kprC_CheckedCast<kbcC_AccelerationBaseMotionBCState>(*StateIn(step), __FILE__, __LINE__);
+}

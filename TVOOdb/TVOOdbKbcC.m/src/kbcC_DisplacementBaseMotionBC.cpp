@@ -1,0 +1,18 @@
+#include "kbcC_DisplacementBaseMotionBC.h"
+
+cls_AttributeTable const& kbcC_DisplacementBaseMotionBCState::Attributes() {
+  static auto const table = cls_Describe<kbcC_DisplacementBaseMotionBCState, kbcC_BaseMotionBCState>("kbcC_DisplacementBaseMotionBCState", 203);
+  return table;
+}
+
+cls_AttributeTable const& kbcC_DisplacementBaseMotionBC::Attributes() {
+  static auto const table = cls_Describe<kbcC_DisplacementBaseMotionBC, kbcC_BaseMotionBC>("kbcC_DisplacementBaseMotionBC", 203)
+                                .Constructor(constructorCmd())
+                                .VariesBy<kbcC_DisplacementBaseMotionBCState>();
+  return table;
+}
+
+kbcC_DisplacementBaseMotionBCState const& kbcC_DisplacementBaseMotionBC::ConstGetState(cow_String const& step) const {
+  CheckStep(step);
+  return kprC_CheckedCast<kbcC_DisplacementBaseMotionBCState>(*StateIn(step), __FILE__, __LINE__);
+}
