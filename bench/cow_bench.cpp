@@ -137,12 +137,12 @@ void BM_MapCopyAndWriteOne(benchmark::State& state)
   }
 }
 
-BENCHMARK(BM_AppendList)->Arg(100)->Arg(10'000)->Arg(1'000'000);
-BENCHMARK(BM_AppendVector)->Arg(100)->Arg(10'000)->Arg(1'000'000);
-BENCHMARK(BM_ReadList)->Arg(100)->Arg(10'000)->Arg(1'000'000);
-BENCHMARK(BM_ReadVector)->Arg(100)->Arg(10'000)->Arg(1'000'000);
-BENCHMARK(BM_CopyStringListAndWriteOne)->Arg(100)->Arg(100'000);
-BENCHMARK(BM_CopyStringVectorAndWriteOne)->Arg(100)->Arg(100'000);
+BENCHMARK(BM_AppendList)->Name("goal/list_append/ours")->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(BM_AppendVector)->Name("goal/list_append/baseline")->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(BM_ReadList)->Name("goal/list_read/ours")->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(BM_ReadVector)->Name("goal/list_read/baseline")->Arg(100)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(BM_CopyStringListAndWriteOne)->Name("goal/list_copy_write/ours")->Arg(100)->Arg(100'000);
+BENCHMARK(BM_CopyStringVectorAndWriteOne)->Name("goal/list_copy_write/baseline")->Arg(100)->Arg(100'000);
 BENCHMARK(BM_MapInsert<cow_Map<int, int>>)->Arg(100)->Arg(100'000);
 BENCHMARK(BM_MapInsert<std::map<int, int>>)->Arg(100)->Arg(100'000);
 BENCHMARK(BM_MapLookUp<cow_Map<int, int>>)->Arg(100)->Arg(100'000);
@@ -151,5 +151,3 @@ BENCHMARK(BM_MapCopyAndWriteOne<cow_Map<int, int>>)->Arg(100)->Arg(100'000);
 BENCHMARK(BM_MapCopyAndWriteOne<std::map<int, int>>)->Arg(100)->Arg(100'000);
 
 }  // namespace
-
-BENCHMARK_MAIN();

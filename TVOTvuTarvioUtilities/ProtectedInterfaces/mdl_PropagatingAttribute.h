@@ -70,7 +70,6 @@ class TVO_API mdl_PropAttrBase : public cls_Persistent {
   virtual bool SetValueText(std::string_view text) = 0;
   virtual char const* Expected() const = 0;
 
-  void NewUid() override { uid_.NewUid(); }
 
  protected:
   mdl_PropAttributeStateEnm state_ = UNSET;
@@ -118,6 +117,12 @@ class TVO_API mdl_PropAttr final : public mdl_PropAttrBase {
   }
   T const& ConstGet() const noexcept { return value_; }
   void Zero() override { value_ = T(); }
+  void NewUid() override {
+    uid_.NewUid();
+    if constexpr (!std::is_same_v<T, omi_complex>) {
+      cls_Codec<T>::NewUid(value_);
+    }
+  }
 
   void Modify(mdl_PropAttr const& other) {
     if (other.IsModified()) {

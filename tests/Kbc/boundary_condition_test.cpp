@@ -92,7 +92,7 @@ TEST(BoundaryConditionTest, PerturbationStepsLeaveNoTrace) {
     {"deactivated before", [](BC& bc) { bc.Deactivate("B"); }, {0, 1, 4, 5, 5, 5, 5}},
   });
   // What a perturbation step creates reaches the modal steps on its frequencies, and no other.
-  EXPECT_EQ(Statuses(Created("B", "A B:F C:M D!:F E:M F G:M")), (Ints{0, 0, 1, 12, 7, 12, 7, 7}));
+  EXPECT_EQ(Statuses(Created("B", "A B:F C:M D:F! E:M F G:M")), (Ints{0, 0, 1, 12, 7, 12, 7, 7}));
   EXPECT_EQ(Statuses(Created("B", "A B:P C:M D")), (Ints{0, 0, 1, 7, 7}));
 }
 
@@ -242,7 +242,8 @@ TEST(BoundaryConditionTest, RefusesCopiesAndLoadCases) {
   BC bc = Created("A", "A B:F");
   auto const copy = bc.CopiedToStep("B");
   EXPECT_EQ(Statuses(*copy), Ints{1});
-  EXPECT_EQ(static_cast<State const&>(*copy->StateIn("B")).u1, UNSET);
+  EXPECT_EQ(static_cast<State const*>(copy->StateIn("B"))->u1.State(), UNSET);
+  EXPECT_EQ(U1(bc, "A"), 0.5);
   EXPECT_NE(copy->Uid(), bc.Uid());
 
   kbcC_ConnVelocityBC connector;

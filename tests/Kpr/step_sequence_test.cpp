@@ -265,7 +265,8 @@ TEST(StepContainerTest, NotesInsertionsUnderTheLastCommand) {
 }
 
 TEST(StepContainerTest, FollowsGeometricNonlinearity) {
-  constexpr auto off = kprC_Step::OFF, on = kprC_Step::ON, none = kprC_Step::NOT_AVAILABLE, never = kprC_Step::ALWAYS_OFF;
+  constexpr auto off = kprC_Step::OFF, on = kprC_Step::ON;
+  constexpr auto none = kprC_Step::NOT_AVAILABLE, never = kprC_Step::ALWAYS_OFF;
   struct Case {
     unsigned int product;
     std::vector<kprC_Step::NlgeomEnm> steps;

@@ -61,6 +61,15 @@ class kbcC_ComponentBC : public Base {
     this->CheckStep(step);
     return kprC_CheckedCast<S>(*this->StateIn(step), __FILE__, __LINE__);
   }
+  /// Drops from all states what a step of that procedure does not know.
+  void ChangeProcedureType(unsigned int procedure) override {
+    this->Unsettle();
+    for (int i = 0; i < this->states.Length(); ++i) {
+      if (this->states.UncheckedConstGet(i).state.HasValue()) {
+        this->states.Get(i).state.Get().ChangeProcedureType(procedure);
+      }
+    }
+  }
 
  protected:
   static constexpr bool hasComplex = requires { S::ComplexComponents(); };

@@ -11,8 +11,8 @@ extern template class mdl_IdRepositoryOfCows<cow_String, kprC_Step>;
 
 /// The steps of one model by name, in the order of the analysis; the first is the initial step.
 ///
-/// A container starts empty, gets its initial step once and its analysis steps by InsertAfter(). Each change of the order
-/// is checked by the rule of kprC_StepSequencer; a change that breaks it is refused, but stays: the caller undoes it.
+/// A container starts empty, gets its initial step once and its analysis steps by InsertAfter(). Each change of the
+/// order is checked by the rule of kprC_StepSequencer; one that breaks it is refused, but stays: the caller undoes it.
 /// Copies share all steps until one side edits a step. Whoever changes the container tells the step-dependent
 /// repositories, with StepList().
 class TVO_API kprC_StepContainer final : public mdl_IdRepositoryOfCows<cow_String, kprC_Step> {
@@ -36,10 +36,10 @@ class TVO_API kprC_StepContainer final : public mdl_IdRepositoryOfCows<cow_Strin
   bool Insert(cow_String const& name, kprC_Step* step) override;
   /// Enters a copy of the initial step; refused with kprC_Assert 85 in a container that is not empty.
   void SetInitialStep(cow_String const& name, kprC_InitialStep const& step);
-  /// Enters a copy of `step` behind the step `after`; a step of the same name goes, and the copy gets a new id. Refused
-  /// with kprC_Assert 84, and nothing changes, if there is no step `after` or it is the one to be replaced. Refused with
-  /// kprC_Assert 53 if the order is not valid then, which is not looked at while `loading`. Notes the change under the
-  /// last command, if there is one. True if the step was taken.
+  /// Enters a copy of `step` behind the step `after`; a step of the same name goes, and the copy gets a new id.
+  /// Refused with kprC_Assert 84, and nothing changes, if there is no step `after` or it is the one to be replaced;
+  /// with 53 if the order is not valid then, which is not looked at while `loading`. Notes the change under the last
+  /// command, if there is one. True if the step was taken.
   bool InsertAfter(cow_String const& after, cow_String const& name, kprC_AnalysisStep const& step, bool loading);
   /// False if there is no such step. Refused with kprC_Assert 53 if what is left is no valid order, the generation of
   /// added mass admitted.
@@ -90,7 +90,7 @@ class TVO_API kprC_StepContainer final : public mdl_IdRepositoryOfCows<cow_Strin
 
 /// Walks the steps of a container in analysis order, as they stood when the walk was made.
 ///
-///     for (kprC_StepContainerIT step(container); !step.IsDone(); step.Next()) Use(step.CurrentKey(), step.CurrentValue());
+///     for (kprC_StepContainerIT step(container); !step.IsDone(); step.Next()) Use(step.CurrentValue());
 class TVO_API kprC_StepContainerIT {
  public:
   /// Stands on the first step.

@@ -169,8 +169,11 @@ template <class Family>
 bool kprC_StepDependent<Family>::Insert(cow_String const& step, State const& state) {
   int const index = Find(step);
   if (index >= 0) {
+    // The state may come from another step of this object, or go to several steps.
+    typename Quad::StateHolder own(state.Copy());
+    own.Get().NewUid();
     Unsettle();
-    states.Get(index).state = state.Copy();
+    states.Get(index).state = own;
     for (Quad const& quad : states) {
       if (quad.HasStep()) {
         Sync();
@@ -222,11 +225,7 @@ void kprC_StepDependent<Family>::Deactivate(cow_String const& step) {
 
 template <class Family>
 void kprC_StepDependent<Family>::Reset(cow_String const& step) {
-  auto const checks = Family::Rules().reset;
-  if (step == CreateStepName()) {
-    Family::Assert(false, checks.front().error);
-  }
-  AssertChecks(checks, &ConstGetStateQuad(step), nullptr);
+  AssertChecks(Family::Rules().reset, &ConstGetStateQuad(step), nullptr);
   GetStateQuad(step).state = nullptr;
   Sync();
 }

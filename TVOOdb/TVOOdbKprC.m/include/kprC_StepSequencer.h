@@ -14,7 +14,7 @@ class TVO_API kprC_StepSequencer {
   /// The entry of a suppressed step.
   static constexpr unsigned int suppressedEntry = 1;
 
-  /// An empty sequence over no steps. `allowAddedMass` admits the generation of added mass where the rule would refuse it.
+  /// An empty sequence over no steps. `allowAddedMass` admits the generation of added mass, which the rule else refuses.
   explicit kprC_StepSequencer(bool allowAddedMass);
   /// An empty sequence over the steps of a container as they are now.
   kprC_StepSequencer(kprC_StepContainer const& steps, bool allowAddedMass);
@@ -31,7 +31,7 @@ class TVO_API kprC_StepSequencer {
   void Run();
   /// The same up to a step, with it or without it; empty for the initial step.
   void Run(cow_String const& stepName, bool upToBefore);
-  /// The same with a step of that procedure behind a step; behind a suppressed step the new one counts as suppressed, too.
+  /// The same with a step of that procedure behind a step; behind a suppressed one it counts as suppressed, too.
   void InsertAfter(cow_String const& stepName, unsigned int procedure);
   /// The same with that procedure in place of a step's, suppressed or not. The initial step is refused with
   /// kprC_Assert 148.

@@ -195,7 +195,7 @@ bool kprC_StepContainer::HasLoadCase(cow_String const& name) const {
   return analysis != nullptr && !analysis->lcc.IsEmpty();
 }
 
-/// Calls `visit(name, step)` for each step after the initial one that takes part in the analysis, until it answers false.
+/// Calls `visit(name, step)` for each analysis step that is not suppressed, until it answers false.
 template <class Visit>
 void kprC_StepContainer::VisitActiveSteps(Visit visit) const {
   bool initial = true;

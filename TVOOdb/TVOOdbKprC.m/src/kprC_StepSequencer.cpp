@@ -23,7 +23,8 @@ constexpr auto rowOfBit = [] {
 static_assert(
     [] {
       for (kprC_SequenceRow const& row : kprC_SequenceRows) {
-        if (row.undecided.Contains(kprC_Procedure::ComplexFrequency) && !row.complexFrequencyAfterFrequency) return false;
+        bool const undecided = row.undecided.Contains(kprC_Procedure::ComplexFrequency);
+        if (undecided && !row.complexFrequencyAfterFrequency) return false;
       }
       return true;
     }(),
@@ -148,7 +149,7 @@ bool kprC_StepSequencer::IsAppendable(unsigned int id) const {
   return fits;
 }
 
-/// What may follow the first `position` entries as long as no frequency step has been seen. @pre open_ is known before it
+/// What may follow the first `position` entries as long as no frequency step has been seen. @pre open_ is known so far
 kprC_ProcedureSet kprC_StepSequencer::OpenAt(int position) const {
   if (position == 0) return Allowed(kprC_FirstStepRow, allowAddedMass_);
   unsigned int const previous = sequence_[position - 1];

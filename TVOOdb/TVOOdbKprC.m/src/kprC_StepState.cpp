@@ -59,7 +59,7 @@ void kprC_StepState::NewUid() {
   Members const& members = MembersOf(*this);
   uid_.NewUid();
   for (std::ptrdiff_t const place : members.propagating) {
-    At(*this, place).mdl_PropAttrBase::NewUid();
+    At(*this, place).NewUid();
   }
   for (cls_Attribute const* attribute : members.plain) {
     if (attribute->HasIdentity()) {

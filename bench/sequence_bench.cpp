@@ -1,0 +1,38 @@
+// Do questions about a long sequence of steps stay linear in its length?
+
+#include "BenchModel.h"
+#include "kprC_FrequencyStep.h"
+#include "kprC_StepSequencer.h"
+
+namespace {
+
+/// General and perturbation steps in turn; the perturbations pass each question on to the general step before them.
+kprC_StepContainer SequenceOf(int count) {
+  kprC_StepContainer container;
+  container.SetInitialStep(kprC_Step::initialCmd(), kprC_InitialStep());
+  cow_String last = kprC_Step::initialCmd();
+  for (int i = 0; i < count; ++i) {
+    cow_String const name("Step-" + std::to_string(i));
+    if (i % 10 == 0) {
+      container.InsertAfter(last, name, kprC_StaticStep(), true);
+    } else {
+      container.InsertAfter(last, name, kprC_FrequencyStep(), true);
+    }
+    last = name;
+  }
+  return container;
+}
+
+void BM_RunAndAsk(benchmark::State& state) {
+  int const count = static_cast<int>(state.range(0));
+  kprC_StepContainer const container = SequenceOf(count);
+  for (auto _ : state) {
+    kprC_StepSequencer sequencer(container, false);
+    sequencer.Run();
+    benchmark::DoNotOptimize(sequencer.IsRemovable(count / 2));
+    benchmark::DoNotOptimize(sequencer.IsSuppressable(count / 2));
+  }
+}
+BENCHMARK(BM_RunAndAsk)->Name("goal/sequence/ours")->RangeMultiplier(2)->Range(125, 1000);
+
+}  // namespace
