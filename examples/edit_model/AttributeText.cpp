@@ -17,8 +17,8 @@ void SetIn(cls_Persistent& object, cls_Attribute const& attribute, Setting const
     propagating->SetStatus(setting.key.c_str(), State(cow_String(setting.value)), createStep);
     return;
   }
-  bool const read = propagating != nullptr ? propagating->SetValueText(setting.value)
-                                           : attribute.SetText(object, setting.value);
+  bool const read =
+      propagating != nullptr ? propagating->SetValueText(setting.value) : attribute.SetText(object, setting.value);
   if (!read) {
     char const* const expected = propagating != nullptr ? propagating->Expected() : attribute.Expected();
     throw Unreadable(expected + (" for " + setting.key));
@@ -69,7 +69,9 @@ cls_ClassMetadata const& FindType(std::string const& name, std::function<bool(cl
 }
 
 std::unique_ptr<cls_Persistent> NewObject(cls_ClassMetadata const& type) {
-  return std::unique_ptr<cls_Persistent>(type.New());
+  std::unique_ptr<cls_Persistent> object(type.New());
+  if (object == nullptr) throw Unreadable("a class that is not abstract, not " + std::string(type.Name().View()));
+  return object;
 }
 
 std::unique_ptr<cls_Persistent> NewObject(cls_AttributeTable const& table) {

@@ -3,7 +3,8 @@
 #include <algorithm>
 
 std::string const* Arguments::Find(std::string_view key) const {
-  auto const found = std::find_if(named.begin(), named.end(), [&](Setting const& setting) { return setting.key == key; });
+  auto const found =
+      std::find_if(named.begin(), named.end(), [&](Setting const& setting) { return setting.key == key; });
   return found == named.end() ? nullptr : &found->value;
 }
 

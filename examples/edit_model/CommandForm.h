@@ -17,8 +17,8 @@ struct Arguments {
   std::vector<Setting> free;
 };
 
-/// The form of a command, read from its usage as a person reads it: NAME is a word, `to=NEWNAME` a setting, what stands in
-/// brackets may be left out, and `key=value ...` stands for any settings.
+/// The form of a command, read from its usage as a person reads it: NAME is a word, `to=NEWNAME` a setting, what stands
+/// in brackets may be left out, and `key=value ...` stands for any settings.
 class CommandForm {
  public:
   CommandForm(std::string_view command, std::string_view usage);

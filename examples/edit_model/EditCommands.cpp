@@ -15,7 +15,8 @@ kprC_StepObject const& ObjectOf(Context const& context, Arguments const& argumen
   return ObjectsNamed(context.model, arguments.words[0]).ConstGetObject(Name(arguments.words[1]));
 }
 
-void Put(Context const& context, std::string const& repository, std::string const& name, kprC_StepObject const& object) {
+void Put(Context const& context, std::string const& repository, std::string const& name,
+         kprC_StepObject const& object) {
   context.model.EditRepository(repository).InsertObject(Name(name), object);
 }
 

@@ -62,7 +62,8 @@ void EditedModel::VisitRepositories(Visit visit) const {
 
 std::vector<kprC_StepRepository const*> EditedModel::Repositories() const {
   std::vector<kprC_StepRepository const*> repositories;
-  VisitRepositories([&](cow_String const&, kprC_StepRepository const& repository) { repositories.push_back(&repository); });
+  VisitRepositories(
+      [&](cow_String const&, kprC_StepRepository const& repository) { repositories.push_back(&repository); });
   return repositories;
 }
 
@@ -89,7 +90,9 @@ void EditedModel::Carry(StepList const& steps, cow_String const& changedStep, bo
   }
 }
 
-void EditedModel::Carry(cow_String const& changedStep, bool suppress) { Carry(Steps().StepList(), changedStep, suppress); }
+void EditedModel::Carry(cow_String const& changedStep, bool suppress) {
+  Carry(Steps().StepList(), changedStep, suppress);
+}
 
 // ---- edits of steps
 
@@ -116,8 +119,8 @@ void EditedModel::ReplaceStep(cow_String const& name, kprC_AnalysisStep const& s
   step.AssertValid();
   kprC_StepSequencer(Steps(), false).Replace(name, step.ProcedureType());
   EditSteps().InsertAfter(StepBefore(name), name, step, false);
-  // The repositories take another procedure for a replacement, and then settle what the old step had suppressed. The same
-  // procedure in place of a suppressed step is a resumption to them.
+  // The repositories take another procedure for a replacement, and then settle what the old step had suppressed. The
+  // same procedure in place of a suppressed step is a resumption to them.
   bool const resumes = wasSuppressed && !step.suppress && sameProcedure;
   bool const suppresses = !wasSuppressed && step.suppress;
   Carry(resumes || suppresses ? name : cow_String(), suppresses);

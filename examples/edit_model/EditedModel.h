@@ -8,11 +8,11 @@
 #include "kprC_StepContainer.h"
 #include "kprC_StepRepository.h"
 
-/// A model under edit, with what a model layer does around the library: a change of the steps is tested with a sequencer,
-/// made in the container of steps, and carried to every repository.
+/// A model under edit, with what a model layer does around the library: a change of the steps is tested with a
+/// sequencer, made in the container of steps, and carried to every repository.
 ///
-/// Copies share all containers, so one that is kept for undo costs next to nothing. A refused operation leaves the model
-/// half changed, as the library does: the caller puts the copy back.
+/// Copies share all containers, so one that is kept for undo costs next to nothing. A refused operation leaves the
+/// model half changed, as the library does: the caller puts the copy back.
 class EditedModel {
  public:
   using StepList = kprC_StepList;

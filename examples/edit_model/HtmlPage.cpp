@@ -32,8 +32,9 @@ class Page {
 
   void Write() {
     out_ << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>Model over its steps</title>\n"
-         << "<style>\n" << htmlStyle << "</style>\n</head>\n<body>\n<h1>Model over its steps</h1>\n";
+            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+            "<title>Model over its steps</title>\n<style>\n"
+         << htmlStyle << "</style>\n</head>\n<body>\n<h1>Model over its steps</h1>\n";
     WriteLegend();
     for (kprC_StepRepository const* repository : model_.Repositories()) {
       if (!repository->IsEmpty()) WriteRepository(*repository);
@@ -54,8 +55,8 @@ class Page {
       std::string const word = StatusWord(status);
       out_ << "<li class=\"status " << word << "\">" << word << "</li>\n";
     }
-    out_ << "</ul>\n<p class=\"hint\">Values: <b>given</b> in the step, <span class=\"PROPAGATED\">inherited</span> from "
-            "an earlier one. A crossed-out name is suppressed.</p>\n";
+    out_ << "</ul>\n<p class=\"hint\">Values: <b>given</b> in the step, "
+            "<span class=\"PROPAGATED\">inherited</span> from an earlier one. A crossed-out name is suppressed.</p>\n";
   }
 
   void WriteStepHeads() {
@@ -65,7 +66,8 @@ class Page {
       out_ << "<th scope=\"col\">" << Name(name, step.suppress);
       if (procedure != 0) {
         auto const& labels = kprC_ProcedureTypeLabelMap::Instance();
-        out_ << "<small>" << Escaped(atr_DisplayText(labels.ConstGet(static_cast<unsigned int>(procedure)))) << "</small>";
+        out_ << "<small>" << Escaped(atr_DisplayText(labels.ConstGet(static_cast<unsigned int>(procedure))))
+             << "</small>";
       }
       out_ << "</th>";
     }
@@ -78,7 +80,8 @@ class Page {
 
   void WriteRepository(kprC_StepRepository const& repository) {
     std::string const title = repository.RepositoryName();
-    out_ << "<h2>" << Escaped(title) << "</h2>\n<div class=\"wide\"><table class=\"matrix\">\n<thead><tr><th scope=\"col\">name</th>";
+    out_ << "<h2>" << Escaped(title)
+         << "</h2>\n<div class=\"wide\"><table class=\"matrix\">\n<thead><tr><th scope=\"col\">name</th>";
     WriteStepHeads();
     cow_List<cow_String> const keys = repository.Keys();
     for (int i = 0; i < keys.Length(); ++i) {

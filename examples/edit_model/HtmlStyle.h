@@ -9,7 +9,8 @@ small { display: block; font-weight: normal; opacity: .65; } h3 small { display:
 a { color: inherit; } p { margin: .3rem 0; } .hint { opacity: .8; }
 .wide { overflow-x: auto; }
 table { border-collapse: collapse; }
-th, td { border: 1px solid var(--line); padding: .25rem .5rem; text-align: left; vertical-align: top; white-space: nowrap; }
+th, td { border: 1px solid var(--line); padding: .25rem .5rem; text-align: left; vertical-align: top; }
+th, td { white-space: nowrap; }
 tbody th { font-weight: 600; position: sticky; left: 0; background: Canvas; }
 .matrix td { font-size: .8rem; }
 .values td { font-variant-numeric: tabular-nums; }

@@ -17,8 +17,8 @@ struct Setting {
   std::string value;
 };
 
-/// One line of an edit script: its words, and its settings in their order. Words are separated by blanks; what stands in
-/// double quotes is taken as it is; `#` outside quotes begins a comment. Both lists are empty for an empty line.
+/// One line of an edit script: its words, and its settings in their order. Words are separated by blanks; what stands
+/// in double quotes is taken as it is; `#` outside quotes begins a comment. Both lists are empty for an empty line.
 struct ScriptLine {
   explicit ScriptLine(std::string_view text);
 

@@ -80,7 +80,9 @@ int Run(Options const& options) {
     if (!file) return Complain(options.script);
   }
   EditedModel model;
-  int const status = RunScript(fromFile ? file : std::cin, model, options);
+  std::istream& script = fromFile ? file : std::cin;
+  int const status = RunScript(script, model, options);
+  if (script.bad()) return Complain(fromFile ? options.script : "standard input");
   if (!options.html.empty()) {
     std::ofstream page(options.html, std::ios::binary);
     WriteHtmlPage(page, model);

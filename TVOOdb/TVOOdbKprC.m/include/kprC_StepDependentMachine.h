@@ -352,7 +352,8 @@ bool kprC_StepDependent<Family>::IsSettledFor(StepList const& steps) const {
 template <class Family>
 void kprC_StepDependent<Family>::Initialize(StepList const& steps) {
   if (IsSettledFor(steps)) {
-    AssertValid();
+    // The quads stay as they are; what is derived may depend on members that were set since.
+    Sync();
     return;
   }
   Quads const old = states;

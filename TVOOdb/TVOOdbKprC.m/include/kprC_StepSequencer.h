@@ -14,7 +14,7 @@ class TVO_API kprC_StepSequencer {
   /// The entry of a suppressed step.
   static constexpr unsigned int suppressedEntry = 1;
 
-  /// An empty sequence over no steps. `allowAddedMass` admits the generation of added mass, which the rule else refuses.
+  /// An empty sequence over no steps. `allowAddedMass` admits the generation of added mass, else refused.
   explicit kprC_StepSequencer(bool allowAddedMass);
   /// An empty sequence over the steps of a container as they are now.
   kprC_StepSequencer(kprC_StepContainer const& steps, bool allowAddedMass);

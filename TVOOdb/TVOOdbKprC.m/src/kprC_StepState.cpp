@@ -11,6 +11,7 @@ namespace {
 struct Members {
   std::vector<std::ptrdiff_t> propagating;
   std::vector<cls_Attribute const*> plain;
+  std::vector<cls_Attribute const*> identities;  ///< those of the plain ones that carry identities
   std::size_t ofFamily = 0;  ///< how many of the propagating ones the family's own level has; they come first
 };
 
@@ -24,6 +25,9 @@ std::unique_ptr<Members const> FindMembers(kprC_StepState const& state) {
     auto const* const embedded = dynamic_cast<mdl_PropAttrBase const*>(attribute->Embedded(state));
     if (embedded == nullptr) {
       members->plain.push_back(attribute);
+      if (attribute->HasIdentity()) {
+        members->identities.push_back(attribute);
+      }
       continue;
     }
     members->propagating.push_back(reinterpret_cast<char const*>(embedded) - reinterpret_cast<char const*>(&state));
@@ -34,8 +38,10 @@ std::unique_ptr<Members const> FindMembers(kprC_StepState const& state) {
   return members;
 }
 
+/// By the index of the class's attribute table.
+std::vector<std::unique_ptr<Members const>> known;
+
 Members const& MembersOf(kprC_StepState const& state) {
-  static std::vector<std::unique_ptr<Members const>> known;
   auto const index = static_cast<std::size_t>(state.DynAttributes().Index());
   if (index >= known.size()) {
     known.resize(index + 1);
@@ -61,10 +67,8 @@ void kprC_StepState::NewUid() {
   for (std::ptrdiff_t const place : members.propagating) {
     At(*this, place).NewUid();
   }
-  for (cls_Attribute const* attribute : members.plain) {
-    if (attribute->HasIdentity()) {
-      attribute->NewUid(*this);
-    }
+  for (cls_Attribute const* attribute : members.identities) {
+    attribute->NewUid(*this);
   }
 }
 
