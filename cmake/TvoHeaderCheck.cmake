@@ -11,4 +11,3 @@ add_library(header_check OBJECT EXCLUDE_FROM_ALL ${sources})
 target_link_libraries(header_check PRIVATE KRVTVOOdbAttrEO tvo_warnings)
 # Only the front end's word is wanted.
 target_compile_options(header_check PRIVATE -O0)
-set_target_properties(header_check PROPERTIES UNITY_BUILD OFF)

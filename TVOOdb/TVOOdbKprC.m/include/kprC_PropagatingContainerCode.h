@@ -56,7 +56,9 @@ T& kprC_PropagatingContainer<T>::Get(cow_String const& key) {
   ConstGet(key);
   kprC_NoteChange("Modify", key);
   UpdateTimeStamp(key);
-  return map.Get(key).Get();
+  T& object = map.Get(key).Get();
+  object.Unsettle();
+  return object;
 }
 
 template <class T>
@@ -78,6 +80,7 @@ template <class T>
 bool kprC_PropagatingContainer<T>::Insert(cow_String const& key, T const& object) {
   Holder copy(object);
   T& own = copy.Get();
+  own.Unsettle();
   own.Initialize(procedures);
   own.AssertValid();
   return Put(key, copy);
@@ -86,6 +89,7 @@ bool kprC_PropagatingContainer<T>::Insert(cow_String const& key, T const& object
 template <class T>
 bool kprC_PropagatingContainer<T>::ForcedInsert(cow_String const& key, T const& object) {
   Holder copy(object);
+  copy.Get().Unsettle();
   copy.Get().ForcedInitialize(procedures);
   return Put(key, copy);
 }

@@ -92,6 +92,8 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
 
   /// Derives status and effective state of every step, then validates.
   virtual void Sync();
+  /// Notes that members may be written to from outside: the next change of the steps derives all steps anew.
+  void Unsettle() noexcept { settled_ = false; }
 
  protected:
   kprC_StepDependent() = default;
@@ -110,7 +112,6 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
 
   /// One quad a step of the model, in step order. Whoever writes to it calls Unsettle().
   Quads states;
-  void Unsettle() noexcept { settled_ = false; }
 
  private:
   static bool Answer(kprC_StatusPredicate const& predicate, mdl_PropagationStatusEnm status);
