@@ -200,7 +200,7 @@ void SaveState(auto& archive, kbcC_DisplacementBCState const& state) {
     double const imaginary = (state.*component).Second();
     archive << real << imaginary;
   }
-  int const buckleCase = state.buckleCase;
+  int const buckleCase = static_cast<int>(state.buckleCase);
   archive << buckleCase;
 }
 

@@ -154,12 +154,12 @@ class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValu
     for (auto const component : ComplexComponents()) {
       (this->*component).Zero();
     }
-    buckleCase = NOT_APPLICABLE;
+    buckleCase = kbcC_BucklingCaseEnm::NOT_APPLICABLE;
   }
   bool IsModified() const override {
     // Callers rely on just this list: cU3 and cUR2 take no part.
     bool const complex = !cU1.IsZero() || !cU2.IsZero() || !cU1.IsZero() || !cUR1.IsZero() || !cU1.IsZero() || !cUR3.IsZero();
-    return Base::IsModified() || complex || buckleCase != NOT_APPLICABLE;
+    return Base::IsModified() || complex || buckleCase != kbcC_BucklingCaseEnm::NOT_APPLICABLE;
   }
   void ChangeProcedureType(unsigned int procedure) override {
     RealComponents::ChangeProcedureType(procedure);
@@ -174,7 +174,7 @@ class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValu
   }
 
   omi_complex cU1, cU2, cU3, cUR1, cUR2, cUR3;
-  kbcC_BucklingCaseEnm buckleCase = NOT_APPLICABLE;
+  kbcC_BucklingCaseEnm buckleCase = kbcC_BucklingCaseEnm::NOT_APPLICABLE;
 };
 
 /// A displacement that may be held at what it is ("fixed"), an answer for all steps.

@@ -2,8 +2,10 @@
 
 #include "kbcC_ConnectorBC.h"
 
-/// Prescribed relative accelerations of a connector in one step, in units of length and radians per unit of time squared.
-class TVO_API kbcC_ConnAccelerationBCState final : public kbcC_ComponentState<kbcC_ConnAccelerationBCState, kbcC_ConnectorBCState> {
+/// Prescribed relative accelerations of a connector in one step, in units of length and radians per unit
+/// of time squared.
+class TVO_API kbcC_ConnAccelerationBCState final
+    : public kbcC_ComponentState<kbcC_ConnAccelerationBCState, kbcC_ConnectorBCState> {
   CLS_PERSISTENT(kbcC, kbcC_ConnAccelerationBCState)
 
  public:

@@ -3,7 +3,8 @@
 #include "kbcC_ConnectorBC.h"
 
 /// Prescribed relative velocities of a connector in one step, in units of length and radians per unit of time.
-class TVO_API kbcC_ConnVelocityBCState final : public kbcC_ComponentState<kbcC_ConnVelocityBCState, kbcC_ConnectorBCState> {
+class TVO_API kbcC_ConnVelocityBCState final
+    : public kbcC_ComponentState<kbcC_ConnVelocityBCState, kbcC_ConnectorBCState> {
   CLS_PERSISTENT(kbcC, kbcC_ConnVelocityBCState)
 
  public:

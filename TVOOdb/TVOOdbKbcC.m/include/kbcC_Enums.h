@@ -4,7 +4,7 @@
 #include "mdl_PropagatingAttribute.h"
 
 /// In which parts of a buckling analysis a displacement is prescribed.
-enum kbcC_BucklingCaseEnm {
+enum class kbcC_BucklingCaseEnm {
   NOT_APPLICABLE = 0,
   STRESS_PERTURBATION = 1,
   BUCKLING_MODES = 2,
@@ -18,13 +18,13 @@ inline constexpr omu_EnumRow omu_EnumRows<kbcC_BucklingCaseEnm>[] = {{"NOT_APPLI
                                                                      {"PERTURBATION_AND_BUCKLING", 3},
                                                                      {nullptr, 0}};
 
-enum kbcC_EnergyEquationTypeEnm { ENERGY_NONE = 0, TEMPERATURE = 1 };
+enum class kbcC_EnergyEquationTypeEnm { ENERGY_NONE = 0, TEMPERATURE = 1 };
 
 template <>
 inline constexpr omu_EnumRow omu_EnumRows<kbcC_EnergyEquationTypeEnm>[] = {
     {"ENERGY_NONE", 0}, {"TEMPERATURE", 1}, {nullptr, 0}};
 
-enum kbcC_TurbulenceTypeEnm { TURB_NONE = 0, SPALART = 1, KEPS_RNG = 2, VMS = 3 };
+enum class kbcC_TurbulenceTypeEnm { TURB_NONE = 0, SPALART = 1, KEPS_RNG = 2, VMS = 3 };
 
 template <>
 inline constexpr omu_EnumRow omu_EnumRows<kbcC_TurbulenceTypeEnm>[] = {

@@ -1,12 +1,14 @@
 #include "kbcC_AccelerationBaseMotionBC.h"
 
 cls_AttributeTable const& kbcC_AccelerationBaseMotionBCState::Attributes() {
-  static auto const table = cls_Describe<kbcC_AccelerationBaseMotionBCState, kbcC_BaseMotionBCState>("kbcC_AccelerationBaseMotionBCState", 203);
+  using S = kbcC_AccelerationBaseMotionBCState;
+  static auto const table = cls_Describe<S, kbcC_BaseMotionBCState>("kbcC_AccelerationBaseMotionBCState", 203);
   return table;
 }
 
 cls_AttributeTable const& kbcC_AccelerationBaseMotionBC::Attributes() {
-  static auto const table = cls_Describe<kbcC_AccelerationBaseMotionBC, kbcC_BaseMotionBC>("kbcC_AccelerationBaseMotionBC", 203)
+  using BC = kbcC_AccelerationBaseMotionBC;
+  static auto const table = cls_Describe<BC, kbcC_BaseMotionBC>("kbcC_AccelerationBaseMotionBC", 203)
                                 .Constructor(constructorCmd())
                                 .VariesBy<kbcC_AccelerationBaseMotionBCState>();
   return table;

@@ -52,7 +52,7 @@ class TVO_API kprC_AnalysisStep : public kprC_Step {
   cow_COW<kprC_LinearCtrl, cow_Virtual<kprC_LinearCtrl>> linearCtrl;  ///< empty: the solver's own
   MatrixSolverEnm matrixSolver = MatrixSolverEnm::DIRECT;
   MatrixStorageEnm matrixStorage = MatrixStorageEnm::SOLVER_DEFAULT;
-  ConvertSDIEnm convertSDI = PROPAGATED;  ///< whether severe discontinuities force iterations
+  ConvertSDIEnm convertSDI = ConvertSDIEnm::PROPAGATED;  ///< whether severe discontinuities force iterations
   cow_COW<mdl_ExtensionRepository, cow_Virtual<mdl_ExtensionRepository>> activateElemContainer;  ///< never null
   mdl_MapString2ObjCow<kprC_StepControl> scc;          ///< step controls by name
   mdl_MapString2ObjCow<kprC_StepCyclingControl> scc2;  ///< controls of the repetition of steps by name

@@ -8,7 +8,7 @@ class TVO_API kprC_Controls : public cls_Persistent {
   CLS_PERSISTENT(kprC, kprC_Controls)
 
  public:
-  enum DefaultEnm { DEFAULT = 0, PROPAGATED = 1 };
+  enum class DefaultEnm { DEFAULT = 0, PROPAGATED = 1 };
 
   kprC_Controls() = default;
   /// Refuses both options at once with number 103: a step takes the previous step's controls or the solver's.

@@ -160,6 +160,8 @@ void kprC_Propagator<Family>::Propagate(Quad const& next) {
     } else if (running_.state.HasValue()) {
       State& state = running_.state.Get();
       state.Propagate();
+      // What deactivates ends the object's activity by its status; the flag is that step's own.
+      state.deactivate = false;
       state.NewUid();
     }
     running_.status = computed ? STATUS_COMPUTED_PROPAGATED : STATUS_PROPAGATED;

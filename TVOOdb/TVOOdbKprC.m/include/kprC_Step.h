@@ -18,8 +18,8 @@
 /// What all steps of a class answer alike stands in the class's row of kprC_StepAnswerRows and is looked up by
 /// DynTypeId in constant time; a class adds code only for what depends on its fields.
 ///
-/// Enumerations that share a name of a value with another one of this class are scoped: MatrixSolverEnm,
-/// MatrixStorageEnm, ExtrapolationEnm, DefaultEnm. The others are not.
+/// Enumerations that share a name of a value with another one are scoped: MatrixSolverEnm, MatrixStorageEnm,
+/// ExtrapolationEnm, ConvertSDIEnm, DefaultEnm. The others are not.
 class TVO_API kprC_Step : public cls_Persistent {
   CLS_ABSTRACT(kprC, kprC_Step)
 
@@ -40,7 +40,7 @@ class TVO_API kprC_Step : public cls_Persistent {
   enum EigensolverEnm { SUBSPACE = 0, LANCZOS = 1, AMS = 2 };
   enum class ExtrapolationEnm { LINEAR = 0, PARABOLIC = 1, NONE = 2, VELOCITY_PARABOLIC = 3, DEFAULT = 4 };
   enum AmplitudeEnm { STEP = 0, RAMP = 1 };
-  enum ConvertSDIEnm { CONVERT_SDI_OFF = 0, CONVERT_SDI_ON = 1, PROPAGATED = 2 };
+  enum class ConvertSDIEnm { CONVERT_SDI_OFF = 0, CONVERT_SDI_ON = 1, PROPAGATED = 2 };
   enum class DefaultEnm { DEFAULT = 0 };
 
   /// Whether heat stays where it arises.
