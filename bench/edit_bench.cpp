@@ -24,14 +24,12 @@ void BM_CopyStates(benchmark::State& state) {
   BoundaryConditions const conditions = ModelOf(1, StepsOf(steps));
   kbcC_BC const& condition = conditions.ConstGet("BC-0");
   for (auto _ : state) {
-    kbcC_BC::Quads copies;
+    std::vector<std::unique_ptr<kbcC_BCState>> copies;
+    copies.reserve(steps);
     for (kbcC_BC::Quad const& quad : condition.States()) {
-      cls_DeepCopyContext context;
-      kbcC_BC::Quad copy = quad;
       if (quad.state.HasValue()) {
-        copy.state = cls_DeepCopyOf(quad.state.ConstGet(), context);
+        copies.emplace_back(quad.state.ConstGet().Copy());
       }
-      copies.Append(copy);
     }
     benchmark::DoNotOptimize(copies);
   }

@@ -6,7 +6,7 @@ packages=()
 for purpose in "$@"; do
   case $purpose in
     build) packages+=(g++ cmake ninja-build) ;;
-    test) packages+=(libgtest-dev pkg-config clang libclang-rt-14-dev) ;;
+    test) packages+=(libgtest-dev pkg-config clang libclang-rt-14-dev llvm) ;;
     bench) packages+=(libbenchmark-dev libsqlite3-dev libboost-serialization-dev python3) ;;
     *)
       echo "install_deps.sh: no purpose '$purpose'; there are build, test, bench" >&2

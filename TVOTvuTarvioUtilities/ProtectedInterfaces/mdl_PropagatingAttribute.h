@@ -43,6 +43,10 @@ class TVO_API mdl_PropAttrBase : public cls_Persistent {
   bool IsActive() const noexcept { return state_ == SET || state_ == PROPAGATED; }
   bool IsFree() const noexcept { return state_ == UNSET || state_ == FREED; }
 
+  /// Whether the value carries identities besides the attribute's own, as lists do. NewUid() renews all of them,
+  /// NewOwnUid() the attribute's own alone.
+  virtual bool ValueHasIdentity() const = 0;
+  void NewOwnUid() noexcept { uid_.NewUid(); }
   /// Clears the value to zero or empty; the state is not touched.
   virtual void Zero() = 0;
   /// Sets the state alone, as scripts do: UNSET only in the create step, FREED only after it; SET gives a value of zero.
@@ -117,9 +121,10 @@ class TVO_API mdl_PropAttr final : public mdl_PropAttrBase {
   }
   T const& ConstGet() const noexcept { return value_; }
   void Zero() override { value_ = T(); }
+  bool ValueHasIdentity() const override { return valueHasIdentity; }
   void NewUid() override {
-    uid_.NewUid();
-    if constexpr (!std::is_same_v<T, omi_complex>) {
+    NewOwnUid();
+    if constexpr (valueHasIdentity) {
       cls_Codec<T>::NewUid(value_);
     }
   }
@@ -140,6 +145,15 @@ class TVO_API mdl_PropAttr final : public mdl_PropAttrBase {
   char const* Expected() const override;
 
  private:
+  // A complex value is stored by its parts and so has no codec.
+  static constexpr bool valueHasIdentity = [] {
+    if constexpr (std::is_same_v<T, omi_complex>) {
+      return false;
+    } else {
+      return cls_Codec<T>::hasIdentity;
+    }
+  }();
+
   T value_{};
 };
 

@@ -8,6 +8,7 @@ struct Command {
   std::string_view word;
   std::string_view usage;
   void (*run)(Context const&, Arguments const&);
+  bool edits = true;
 };
 
 constexpr Command commands[] = {
@@ -24,11 +25,11 @@ constexpr Command commands[] = {
     {"resume", "REPOSITORY NAME", &Resume},
     {"remove", "REPOSITORY NAME", &Remove},
     {"rename", "REPOSITORY NAME to=NEWNAME", &Rename},
-    {"history", "[REPOSITORY]", &History},
-    {"show", "REPOSITORY NAME [stepName=STEP]", &Show},
-    {"invalid", "REPOSITORY", &Invalid},
-    {"offered", "STEP", &Offered},
-    {"appendable", "", &Appendable},
+    {"history", "[REPOSITORY]", &History, false},
+    {"show", "REPOSITORY NAME [stepName=STEP]", &Show, false},
+    {"invalid", "REPOSITORY", &Invalid, false},
+    {"offered", "STEP", &Offered, false},
+    {"appendable", "", &Appendable, false},
     {"save", "FILE", &Save},
     {"open", "FILE", &Open},
 };
@@ -42,23 +43,26 @@ Command const& FindCommand(ScriptLine const& line) {
   throw Unreadable("a command (" + known + ")");
 }
 
-/// Keeps the command as the last one of the history while it runs, since changes are noted under it, and drops it again
-/// if it is refused.
-class NotedCommand {
+/// Notes an edit as the last command while it runs, since changes are noted under it. A refused one leaves neither
+/// itself nor its changes behind.
+class NotedEdit {
  public:
-  explicit NotedCommand(ScriptLine const& line) {
+  explicit NotedEdit(ScriptLine const& line) : changesBefore_(omu_ChangeHistory::Instance().Changes().Length()) {
     std::string text;
     for (std::string const& word : line.words) text.append(text.empty() ? "" : " ").append(word);
     omu_CmdHistory::Instance().Add(cow_String(text));
   }
-  ~NotedCommand() {
-    if (!done_) omu_CmdHistory::Instance().RemoveLast(true);
+  ~NotedEdit() {
+    if (done_) return;
+    omu_CmdHistory::Instance().RemoveLast(true);
+    omu_ChangeHistory::Instance().DropFrom(changesBefore_);
   }
-  NotedCommand(NotedCommand const&) = delete;
-  NotedCommand& operator=(NotedCommand const&) = delete;
+  NotedEdit(NotedEdit const&) = delete;
+  NotedEdit& operator=(NotedEdit const&) = delete;
   void Done() noexcept { done_ = true; }
 
  private:
+  int const changesBefore_;
   bool done_ = false;
 };
 
@@ -67,7 +71,8 @@ class NotedCommand {
 void Execute(Context const& context, ScriptLine const& line) {
   Command const& command = FindCommand(line);
   Arguments const arguments = CommandForm(command.word, command.usage).Read(line);
-  NotedCommand noted(line);
+  if (!command.edits) return command.run(context, arguments);
+  NotedEdit noted(line);
   command.run(context, arguments);
   noted.Done();
 }

@@ -10,8 +10,8 @@ struct Context {
   RowPrinter const& out;
 };
 
-/// Executes the command on a line that is not empty. Raises Unreadable, or what the library refuses with; the model may
-/// be half changed then.
+/// Executes the command on a line that is not empty, and notes it if it is an edit. Raises Unreadable, or what the
+/// library refuses with; the model may be half changed then, but the histories stand as before.
 void Execute(Context const& context, ScriptLine const& line);
 
 /// The repository of objects of that name. The line cannot be read if there is none.

@@ -105,8 +105,11 @@ void EditedModel::AddStep(cow_String const& name, cow_String const& after, kprC_
   bool const known = Steps().IsMember(name);
   if (known && StepBefore(name) == after) return ReplaceStep(name, step);
   step.AssertValid();
-  // A step of that name leaves its place first; what the sequence is then, the container tests.
-  if (!known) kprC_StepSequencer(Steps(), false).InsertAfter(after, step.ProcedureType());
+  kprC_Assert(!IsInitial(name), 148);
+  kprC_StepContainer others = Steps();
+  // A step of that name leaves its place first: a suppressed one is passed over, as if it were gone.
+  if (known) others.Get(name).suppress = true;
+  kprC_StepSequencer(others, false).InsertAfter(after, step.ProcedureType());
   StepList const rest = Without(Steps().StepList(), name);
   EditSteps().InsertAfter(after, name, step, false);
   if (known) Carry(rest);
@@ -136,6 +139,11 @@ void EditedModel::FinishChange(cow_String const& name, kprC_Step& step, bool was
 
 void EditedModel::SetStepSuppressed(cow_String const& name, bool suppress) {
   unsigned int const procedure = Steps().ConstGet(name).ProcedureType();
+  if (IsInitial(name)) {
+    // It is in no sequence and answers for itself.
+    kprC_Step& step = EditSteps().Get(name);
+    return suppress ? step.Suppress() : step.Resume();
+  }
   kprC_StepSequencer sequence(Steps(), false);
   sequence.Run();
   int const index = SequenceIndex(name);
@@ -160,6 +168,7 @@ void EditedModel::RemoveStep(cow_String const& name) {
 
 void EditedModel::RenameStep(cow_String const& name, cow_String const& newName) {
   Steps().ConstGet(name);
+  kprC_Assert(name == newName || (!IsInitial(name) && !IsInitial(newName)), 148);
   bool const taken = name != newName && Steps().IsMember(newName);
   StepList const rest = Without(Steps().StepList(), newName);
   EditSteps().ChangeKey(name, newName);

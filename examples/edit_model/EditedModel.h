@@ -56,6 +56,7 @@ class EditedModel {
   template <class Visit>
   void VisitRepositories(Visit visit) const;
   void FinishChange(cow_String const& name, kprC_Step& step, bool wasSuppressed);
+  bool IsInitial(cow_String const& step) const { return step == Steps().Keys().First(); }
   int SequenceIndex(cow_String const& step) const { return Steps().Keys().FindMember(step) - 1; }
   cow_String StepBefore(cow_String const& step) const;
   void Carry(StepList const& steps, cow_String const& changedStep = {}, bool suppress = false);

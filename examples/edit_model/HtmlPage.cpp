@@ -35,6 +35,7 @@ class Page {
             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
             "<title>Model over its steps</title>\n<style>\n"
          << htmlStyle << "</style>\n</head>\n<body>\n<h1>Model over its steps</h1>\n";
+    WriteSteps();
     WriteLegend();
     for (kprC_StepRepository const* repository : model_.Repositories()) {
       if (!repository->IsEmpty()) WriteRepository(*repository);
@@ -43,6 +44,32 @@ class Page {
   }
 
  private:
+  /// The values of an object: those of each step, none where the object holds no state. Told are those that some step
+  /// has otherwise than a new object.
+  struct Values {
+    std::vector<std::vector<AttributeRow>> columns;
+    std::vector<std::size_t> told;
+  };
+
+  void WriteSteps() {
+    out_ << "<h2>" << kprC_Step::stepRepositoryCmd() << "</h2>\n";
+    WriteTableHead("steps", "name");
+    out_ << "<tr><th scope=\"row\">procedure</th>";
+    for (cow_String const& name : steps_) out_ << "<td>" << Escaped(ProcedureLabel(name)) << "</td>";
+    out_ << "</tr>\n<tr><th scope=\"row\">suppressed</th>";
+    for (cow_String const& name : steps_) {
+      out_ << "<td>" << (model_.Steps().ConstGet(name).suppress ? "yes" : "no") << "</td>";
+    }
+    out_ << "</tr>\n</tbody></table></div>\n";
+  }
+
+  std::string ProcedureLabel(cow_String const& step) const {
+    int const procedure = model_.Procedure(step);
+    if (procedure == 0) return kprC_InitialStepName();
+    auto const& labels = kprC_ProcedureTypeLabelMap::Instance();
+    return std::string(atr_DisplayText(labels.ConstGet(static_cast<unsigned int>(procedure))).View());
+  }
+
   void WriteLegend() {
     std::set<mdl_PropagationStatusEnm> statuses;
     for (kprC_StepRepository const* repository : model_.Repositories()) {
@@ -50,26 +77,20 @@ class Page {
         for (auto const status : repository->ConstGetObject(key).History()) statuses.insert(status);
       }
     }
+    if (statuses.empty()) return;
     out_ << "<ul class=\"legend\" aria-label=\"Statuses\">\n";
     for (auto const status : statuses) {
       std::string const word = StatusWord(status);
       out_ << "<li class=\"status " << word << "\">" << word << "</li>\n";
     }
-    out_ << "</ul>\n<p class=\"hint\">Values: <b>given</b> in the step, "
-            "<span class=\"PROPAGATED\">inherited</span> from an earlier one. A crossed-out name is suppressed.</p>\n";
+    out_ << "</ul>\n<p class=\"hint\">A crossed-out name is suppressed.</p>\n";
   }
 
-  void WriteStepHeads() {
+  /// Opens a table with a column for each step, up to its first row.
+  void WriteTableHead(char const* kind, char const* corner) {
+    out_ << "<div class=\"wide\"><table class=\"" << kind << "\">\n<thead><tr><th scope=\"col\">" << corner << "</th>";
     for (cow_String const& name : steps_) {
-      kprC_Step const& step = model_.Steps().ConstGet(name);
-      int const procedure = model_.Procedure(name);
-      out_ << "<th scope=\"col\">" << Name(name, step.suppress);
-      if (procedure != 0) {
-        auto const& labels = kprC_ProcedureTypeLabelMap::Instance();
-        out_ << "<small>" << Escaped(atr_DisplayText(labels.ConstGet(static_cast<unsigned int>(procedure))))
-             << "</small>";
-      }
-      out_ << "</th>";
+      out_ << "<th scope=\"col\">" << Name(name, model_.Steps().ConstGet(name).suppress) << "</th>";
     }
     out_ << "</tr></thead>\n<tbody>\n";
   }
@@ -80,9 +101,9 @@ class Page {
 
   void WriteRepository(kprC_StepRepository const& repository) {
     std::string const title = repository.RepositoryName();
-    out_ << "<h2>" << Escaped(title)
-         << "</h2>\n<div class=\"wide\"><table class=\"matrix\">\n<thead><tr><th scope=\"col\">name</th>";
-    WriteStepHeads();
+    out_ << "<h2>" << Escaped(title) << "</h2>\n";
+    WriteTableHead("matrix", "name");
+    std::vector<Values> values;
     cow_List<cow_String> const keys = repository.Keys();
     for (int i = 0; i < keys.Length(); ++i) {
       kprC_StepObject const& object = repository.ConstGetObject(keys[i]);
@@ -93,11 +114,17 @@ class Page {
         out_ << "<td class=\"status " << word << "\">" << word << "</td>";
       }
       out_ << "</tr>\n";
+      values.push_back(ValuesOf(object));
     }
     out_ << "</tbody></table></div>\n";
+    if (std::any_of(values.begin(), values.end(), [](Values const& some) { return !some.told.empty(); })) {
+      out_ << "<p class=\"hint\">Values: <b>given</b> in the step, "
+              "<span class=\"PROPAGATED\">inherited</span> from an earlier one.</p>\n";
+    }
     for (int i = 0; i < keys.Length(); ++i) {
       out_ << "<section id=\"" << title << '-' << i << "\">\n";
       WriteObject(keys[i], repository.ConstGetObject(keys[i]));
+      WriteValues(values[static_cast<std::size_t>(i)]);
       out_ << "</section>\n";
     }
   }
@@ -109,25 +136,33 @@ class Page {
       if (!row.value.empty()) out_ << "<span class=\"own\">" << row.key << " = " << Escaped(row.value) << "</span> ";
     }
     out_ << "</p>\n";
-    WriteValues(object);
   }
 
-  /// A row a value, a column a step; values that no step has differ from those of a new object are left out.
-  void WriteValues(kprC_StepObject const& object) {
+  Values ValuesOf(kprC_StepObject const& object) const {
     auto const untouched = AttributeRows(*NewObject(*object.DynAttributes().StepState()));
-    std::vector<std::vector<AttributeRow>> columns;
+    Values values;
     for (cow_String const& step : steps_) {
       kprC_StepState const* const state = object.StateIn(step);
-      columns.push_back(state == nullptr ? std::vector<AttributeRow>() : AttributeRows(*state));
+      values.columns.push_back(state == nullptr ? std::vector<AttributeRow>() : AttributeRows(*state));
     }
-    out_ << "<div class=\"wide\"><table class=\"values\">\n<thead><tr><th scope=\"col\">value</th>";
-    WriteStepHeads();
     for (std::size_t i = 0; i < untouched.size(); ++i) {
-      bool const told = std::any_of(columns.begin(), columns.end(),
-                                    [&](auto const& column) { return !column.empty() && column[i] != untouched[i]; });
-      if (!told) continue;
-      out_ << "<tr><th scope=\"row\">" << untouched[i].key << "</th>";
-      for (auto const& column : columns) WriteValue(column.empty() ? nullptr : &column[i]);
+      bool const told = std::any_of(values.columns.begin(), values.columns.end(), [&](auto const& column) {
+        return !column.empty() && column[i] != untouched[i];
+      });
+      if (told) values.told.push_back(i);
+    }
+    return values;
+  }
+
+  /// A row a value, a column a step.
+  void WriteValues(Values const& values) {
+    if (values.told.empty()) return;
+    auto const held = std::find_if(values.columns.begin(), values.columns.end(),
+                                   [](auto const& column) { return !column.empty(); });
+    WriteTableHead("values", "value");
+    for (std::size_t const i : values.told) {
+      out_ << "<tr><th scope=\"row\">" << (*held)[i].key << "</th>";
+      for (auto const& column : values.columns) WriteValue(column.empty() ? nullptr : &column[i]);
       out_ << "</tr>\n";
     }
     out_ << "</tbody></table></div>\n";

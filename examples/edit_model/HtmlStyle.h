@@ -5,7 +5,7 @@ inline constexpr char const* htmlStyle = R"css(
 :root { color-scheme: light dark; font: 14px/1.4 system-ui, sans-serif; --line: #8886; }
 body { margin: 2rem auto; max-width: 90rem; padding: 0 1rem; }
 h1 { font-size: 1.5rem; } h2 { font-size: 1.2rem; margin-top: 2rem; } h3 { font-size: 1rem; margin: 1.5rem 0 .3rem; }
-small { display: block; font-weight: normal; opacity: .65; } h3 small { display: inline; }
+small { font-weight: normal; opacity: .65; }
 a { color: inherit; } p { margin: .3rem 0; } .hint { opacity: .8; }
 .wide { overflow-x: auto; }
 table { border-collapse: collapse; }

@@ -55,7 +55,7 @@ void Show(Context const& context, Arguments const& arguments) {
 
 void Invalid(Context const& context, Arguments const& arguments) {
   for (cow_String const& key : ObjectsNamed(context.model, arguments.words[0]).InvalidKeys()) {
-    context.out.Line(key.View());
+    context.out.Line(InOneLine(key.View()));
   }
 }
 

@@ -86,6 +86,17 @@ TEST(EditModelTest, DerivesTheRowsOfOneObjectEditByEdit) {
   EXPECT_EQ(LastRow(script), "x|NONE|NONE|CREATED|MODIFIED|PROPAGATED");
 }
 
+TEST(EditModelTest, TheStepBehindAPerturbationReturnsToTheBase) {
+  EXPECT_EQ(LastRow(R"(
+step A StaticStep after=Initial initialInc=0.1 minInc=1e-5 maxInc=1
+step B StaticStep after=A initialInc=0.1 minInc=1e-5 maxInc=1
+step C FrequencyStep after=B numEigen=3
+step D StaticStep after=C initialInc=0.1 minInc=1e-5 maxInc=1
+create DisplacementBC x createStepName=A u1=1
+)"),
+            "x|NONE|CREATED|PROPAGATED|BASE_PROPAGATED|PROPAGATED");
+}
+
 TEST(EditModelTest, APerturbationStartsFromZeroAndLeavesNoTrace) {
   std::string const script = modal + "create DisplacementBC x createStepName=A u1=1\n";
   EXPECT_EQ(LastRow(script), "x|NONE|CREATED|PROPAGATED|BASE_PROPAGATED|BASE_BUILT_IN|PROPAGATED");
@@ -219,12 +230,20 @@ TEST(EditModelTest, RefusesInTheLibrarysWordsAndLeavesTheModelAsItWas) {
       {"step N StaticStep after=A", "Initial increment must be greater than zero"},
       {"step N StaticStep after=No initialInc=1 minInc=1 maxInc=1", "There is no step by that name"},
       {"step N ModalDynamicsStep after=A incSize=1", "Invalid sequence of steps"},
+      {"step C FrequencyStep after=D numEigen=3", "Invalid sequence of steps"},
+      {"step A StaticStep after=A initialInc=1 minInc=1 maxInc=1", "There is no step by that name"},
+      {"step Initial StaticStep after=A initialInc=1 minInc=1 maxInc=1", "The Initial step cannot be replaced."},
+      {"step Initial StaticStep after=Initial initialInc=1 minInc=1 maxInc=1", "The Initial step cannot be replaced."},
+      {"rename steps A to=Initial", "The Initial step cannot be replaced."},
+      {"rename steps Initial to=X", "The Initial step cannot be replaced."},
       {"replace Initial StaticStep initialInc=1 minInc=1 maxInc=1", "The Initial step cannot be replaced."},
       {"replace No StaticStep", "No"},
       {"remove steps C", "Invalid sequence of steps"},
       {"suppress steps C", "The step cannot be suppressed if it results in an invalid sequence of steps."},
       {"set steps C suppress=true", "The step cannot be suppressed if it results in an invalid sequence of steps."},
-      {"suppress steps Initial", "Invalid step index"},
+      {"suppress steps Initial", "The Initial step cannot be suppressed."},
+      {"set steps Initial suppress=true", "The Initial step cannot be suppressed."},
+      {"remove steps Initial", "Invalid step index"},
       {"set steps A timePeriod=2 initialInc=-1", "Initial increment must be greater than zero"},
       {"rename steps No to=Yes", "No"},
       {"create DisplacementBC y createStepName=No u1=0", "Unknown step type."},
@@ -249,9 +268,10 @@ TEST(EditModelTest, RefusesInTheLibrarysWordsAndLeavesTheModelAsItWas) {
   };
   std::string const listing =
       "history\nshow boundaryConditions x\nshow boundaryConditions x stepName=E\nshow steps A\nshow steps C\n";
-  std::string edits = script;
+  // The initial step is in force anyway: to resume it is no edit.
+  std::string edits = script + "resume steps Initial\n";
   std::string expected;
-  int line = 7;
+  int line = 8;
   for (auto const& [edit, message] : cases) {
     edits += edit + "\n";
     expected += "line " + std::to_string(++line) + ": refused: " + message + "\n";
@@ -327,12 +347,24 @@ TEST(EditModelTest, WritesAPageThatNeedsNothingElse) {
   std::string const page = FileText(path);
   for (char const* part :
        {"region = a &lt;b&gt; &amp; c", "<td class=\"status CREATED\">CREATED</td>", "<td class=\"SET\">1.25</td>",
-        "<td class=\"PROPAGATED\">1.25</td>", "<li class=\"status NONE\">NONE</li>", "<s title=\"suppressed\">D</s>"}) {
+        "<td class=\"PROPAGATED\">1.25</td>", "<li class=\"status NONE\">NONE</li>", "<s title=\"suppressed\">D</s>",
+        "<td>Static, General</td>", "<b>given</b>"}) {
     EXPECT_NE(page.find(part), std::string::npos) << part;
   }
   for (char const* part : {"http:", "https:", "src=", "url(", "<b> &"}) {
     EXPECT_EQ(page.find(part), std::string::npos) << part;
   }
+
+  RunScript(modal + "suppress steps E\n", "--html " + path);
+  std::string const steps = FileText(path);
+  for (char const* row : {"<s title=\"suppressed\">E</s>",
+                          "<td>Initial step</td><td>Static, General</td><td>Static, General</td><td>Frequency</td>"
+                          "<td>Modal dynamics</td><td>Static, General</td>",
+                          "<td>no</td><td>no</td><td>no</td><td>no</td><td>no</td><td>yes</td>"}) {
+    EXPECT_NE(steps.find(row), std::string::npos) << row;
+  }
+  EXPECT_EQ(steps.find("class=\"hint\""), std::string::npos);
+  EXPECT_EQ(steps.find("class=\"legend\""), std::string::npos);
 }
 
 TEST(EditModelTest, TheBracketIsRefusedOnceAndOpensAsItWasSaved) {

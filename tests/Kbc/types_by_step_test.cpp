@@ -69,7 +69,8 @@ TEST(BCTypesByStepTest, RefusesWhatNoMenuHolds) {
   EXPECT_TRUE(kbcC_isValidBCTypeforStep(id(kbcC_TypeId("kbcC_DisplacementBC")), id(Static)));
   EXPECT_FALSE(kbcC_isValidBCTypeforStep(id(kbcC_TypeId("kbcC_DisplacementBC")), id(ModalDynamics)));
   for (int const type : {id(kbcC_TypeId("kbcC_SymmBC")), id(kbcC_TypeId("kbcC_BC")), id(Static), 0, -1}) {
-    EXPECT_FALSE(kbcC_isValidBCTypeforStep(type, id(Static))) << type;
+    EXPECT_THROW(kbcC_isValidBCTypeforStep(type, id(Static)), cow_KeyError) << type;
+    EXPECT_FALSE(kbcC_isOfferedBCTypeforStep(type, id(Static), 0)) << type;
   }
 }
 

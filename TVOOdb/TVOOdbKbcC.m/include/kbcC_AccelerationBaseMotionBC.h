@@ -11,12 +11,12 @@ class TVO_API kbcC_AccelerationBaseMotionBCState final : public kbcC_BaseMotionB
 };
 
 /// An acceleration of the base.
-class TVO_API kbcC_AccelerationBaseMotionBC final : public kbcC_BaseMotionBC {
+class TVO_API kbcC_AccelerationBaseMotionBC final
+    : public kbcC_StateAccess<kbcC_BaseMotionBC, kbcC_AccelerationBaseMotionBCState> {
   CLS_PERSISTENT(kbcC, kbcC_AccelerationBaseMotionBC)
 
  public:
   kbcC_AccelerationBaseMotionBC() = default;
-  kbcC_AccelerationBaseMotionBCState const& ConstGetState(cow_String const& step) const;
 
   KPRC_NAMED_CMD(constructorCmd, "AccelerationBaseMotionBC")
 };

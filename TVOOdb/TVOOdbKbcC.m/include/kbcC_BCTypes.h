@@ -22,8 +22,10 @@ TVO_API cow_List<cow_String> kbcC_getFluidBCTypesforStep(int procedure, int prod
 TVO_API cow_List<cow_String> kbcC_getElectricalBCTypesforStep(int procedure, int product, TVOBasStringMode mode);
 TVO_API cow_List<cow_String> kbcC_getOtherBCTypesforStep(int procedure, int product, TVOBasStringMode mode);
 
-/// Whether one of the menus offers the type; false for a type that has no label. Constant time, and nothing is allocated:
-/// every edit asks this for each of its steps.
+/// Whether one of the menus offers the type. A type that has no label is none to ask for: it raises cow_KeyError.
 TVO_API bool kbcC_isValidBCTypeforStep(int bcType, int procedure, int product);
 /// The same for product 0.
 TVO_API bool kbcC_isValidBCTypeforStep(int bcType, int procedure);
+/// The same, but false for a type without a label. Constant time, and nothing is allocated: every edit asks this for each
+/// of its steps.
+TVO_API bool kbcC_isOfferedBCTypeforStep(int bcType, int procedure, int product) noexcept;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kbcC_BC.h"
+#include "kbcC_Components.h"
 
 /// A base motion in one step; the amplitude gives its course.
 class TVO_API kbcC_BaseMotionBCState : public kbcC_BCState {

@@ -50,26 +50,20 @@ class kbcC_ComponentState : public Base {
     return {&Class::c1, &Class::c2, &Class::c3, &Class::r1, &Class::r2, &Class::r3}; \
   }
 
+/// Gives the values of a step as the condition's own class of states.
+template <class Base, class S>
+class kbcC_StateAccess : public Base {
+ public:
+  S const& ConstGetState(cow_String const& step) const override {
+    return kprC_CheckedCast<S>(Base::ConstGetState(step), __FILE__, __LINE__);
+  }
+};
+
 /// Access to the values of a step by component, for a condition whose states are of class S.
 template <class Base, class S>
-class kbcC_ComponentBC : public Base {
+class kbcC_ComponentBC : public kbcC_StateAccess<Base, S> {
  public:
   using ComponentState = omu_PrimEnum<mdl_PropAttributeStateEnm, 1>;
-
-  /// The value in force in a step; refused as CheckStep refuses.
-  S const& ConstGetState(cow_String const& step) const {
-    this->CheckStep(step);
-    return kprC_CheckedCast<S>(*this->StateIn(step), __FILE__, __LINE__);
-  }
-  /// Drops from all states what a step of that procedure does not know.
-  void ChangeProcedureType(unsigned int procedure) override {
-    this->Unsettle();
-    for (int i = 0; i < this->states.Length(); ++i) {
-      if (this->states.UncheckedConstGet(i).state.HasValue()) {
-        this->states.Get(i).state.Get().ChangeProcedureType(procedure);
-      }
-    }
-  }
 
  protected:
   static constexpr bool hasComplex = requires { S::ComplexComponents(); };
@@ -77,10 +71,10 @@ class kbcC_ComponentBC : public Base {
   static constexpr double noImaginaryPart = -1.7976931348623157e308;
 
   ComponentState GetState(cow_String const& step, std::size_t i) const {
-    return ConstGetState(step).StateOf(i, Procedure(step));
+    return this->ConstGetState(step).StateOf(i, Procedure(step));
   }
   double GetReal(cow_String const& step, std::size_t i) const {
-    S const& state = ConstGetState(step);
+    S const& state = this->ConstGetState(step);
     if constexpr (hasComplex) {
       if (state.UseComplex(Procedure(step))) {
         return Complex(state, i).ConvertedReal();
@@ -89,7 +83,7 @@ class kbcC_ComponentBC : public Base {
     return (state.*S::Components()[i]).ConstGet();
   }
   double GetImag(cow_String const& step, std::size_t i) const {
-    [[maybe_unused]] S const& state = ConstGetState(step);
+    [[maybe_unused]] S const& state = this->ConstGetState(step);
     if constexpr (hasComplex) {
       if (state.UseComplex(Procedure(step))) {
         return Complex(state, i).ConvertedImag();
@@ -198,6 +192,8 @@ class kbcC_HeldDisplacement : public kbcC_ComponentBC<Base, S> {
       AssertZero(kprC_CheckedCast<S>(initial.state.ConstGet(), __FILE__, __LINE__), 6);
     }
   }
+
+  bool AllowedInFlow() const override { return !fixed && Base::AllowedInFlow(); }
 
   bool fixed = false;
 

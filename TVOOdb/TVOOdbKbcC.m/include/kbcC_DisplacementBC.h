@@ -21,7 +21,6 @@ class TVO_API kbcC_DisplacementBC final : public kbcC_HeldDisplacement<kbcC_BC, 
   kbcC_DisplacementBC() = default;
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
-  bool AllowedInFlow() const override { return !fixed && kbcC_BC::AllowedInFlow(); }
   bool ValidInPerturbationStep(int procedure, bool flag) const override;
 
   KPRC_NAMED_CMD(constructorCmd, "DisplacementBC")

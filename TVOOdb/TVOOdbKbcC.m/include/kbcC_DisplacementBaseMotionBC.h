@@ -11,12 +11,12 @@ class TVO_API kbcC_DisplacementBaseMotionBCState final : public kbcC_BaseMotionB
 };
 
 /// A displacement of the base.
-class TVO_API kbcC_DisplacementBaseMotionBC final : public kbcC_BaseMotionBC {
+class TVO_API kbcC_DisplacementBaseMotionBC final
+    : public kbcC_StateAccess<kbcC_BaseMotionBC, kbcC_DisplacementBaseMotionBCState> {
   CLS_PERSISTENT(kbcC, kbcC_DisplacementBaseMotionBC)
 
  public:
   kbcC_DisplacementBaseMotionBC() = default;
-  kbcC_DisplacementBaseMotionBCState const& ConstGetState(cow_String const& step) const;
 
   KPRC_NAMED_CMD(constructorCmd, "DisplacementBaseMotionBC")
 };

@@ -11,12 +11,12 @@ class TVO_API kbcC_VelocityBaseMotionBCState final : public kbcC_BaseMotionBCSta
 };
 
 /// A velocity of the base.
-class TVO_API kbcC_VelocityBaseMotionBC final : public kbcC_BaseMotionBC {
+class TVO_API kbcC_VelocityBaseMotionBC final
+    : public kbcC_StateAccess<kbcC_BaseMotionBC, kbcC_VelocityBaseMotionBCState> {
   CLS_PERSISTENT(kbcC, kbcC_VelocityBaseMotionBC)
 
  public:
   kbcC_VelocityBaseMotionBC() = default;
-  kbcC_VelocityBaseMotionBCState const& ConstGetState(cow_String const& step) const;
 
   KPRC_NAMED_CMD(constructorCmd, "VelocityBaseMotionBC")
 };

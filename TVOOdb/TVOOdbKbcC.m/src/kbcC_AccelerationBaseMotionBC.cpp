@@ -13,8 +13,3 @@ cls_AttributeTable const& kbcC_AccelerationBaseMotionBC::Attributes() {
                                 .VariesBy<kbcC_AccelerationBaseMotionBCState>();
   return table;
 }
-
-kbcC_AccelerationBaseMotionBCState const& kbcC_AccelerationBaseMotionBC::ConstGetState(cow_String const& step) const {
-  CheckStep(step);
-  return kprC_CheckedCast<kbcC_AccelerationBaseMotionBCState>(*StateIn(step), __FILE__, __LINE__);
-}

@@ -87,7 +87,8 @@ bool kbcC_BC::ValidInStep(int procedure, bool flag, bool, int) const {
   if (kprC_IsFlow(static_cast<unsigned int>(procedure)) && !AllowedInFlow()) {
     return false;
   }
-  return kbcC_isValidBCTypeforStep(static_cast<int>(DynTypeId()), procedure) || ValidInPerturbationStep(procedure, flag);
+  return kbcC_isOfferedBCTypeforStep(static_cast<int>(DynTypeId()), procedure, STANDARD_ANALYSIS) ||
+         ValidInPerturbationStep(procedure, flag);
 }
 
 void kbcC_BC::AssertDefinition() const {

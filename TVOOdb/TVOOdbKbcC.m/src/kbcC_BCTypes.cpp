@@ -30,8 +30,16 @@ cow_List<cow_String> kbcC_getOtherBCTypesforStep(int procedure, int product, TVO
   return Menu(kbcC_OtherMenu, procedure, product, mode);
 }
 
-bool kbcC_isValidBCTypeforStep(int bcType, int procedure, int product) {
+bool kbcC_isOfferedBCTypeforStep(int bcType, int procedure, int product) noexcept {
   return kbcC_Offers.IsOffered(static_cast<unsigned int>(bcType), static_cast<unsigned int>(procedure), product);
+}
+
+bool kbcC_isValidBCTypeforStep(int bcType, int procedure, int product) {
+  bool const offered = kbcC_isOfferedBCTypeforStep(bcType, procedure, product);
+  if (!offered) {
+    kbcC_BCTypeLabelMap::Instance().ConstGet(static_cast<unsigned int>(bcType));
+  }
+  return offered;
 }
 
 bool kbcC_isValidBCTypeforStep(int bcType, int procedure) { return kbcC_isValidBCTypeforStep(bcType, procedure, 0); }

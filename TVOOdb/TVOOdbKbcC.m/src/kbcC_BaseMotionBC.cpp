@@ -44,7 +44,7 @@ void kbcC_BaseMotionBC::AssertValid() const {
   kbcC_AssertNoDiscreteField(*this, "Discrete Fields are not supported as BaseMotion BC distributions.");
   kbcC_BC::AssertValid();
   for (Quad const& quad : states) {
-    if (quad.state.HasValue() && !quad.IsStepSuppressed()) {
+    if (quad.state.HasValue()) {
       ProcedureAssertValid(quad.Procedure(),
                            kprC_CheckedCast<kbcC_BaseMotionBCState>(quad.state.ConstGet(), __FILE__, __LINE__));
     }

@@ -13,8 +13,3 @@ cls_AttributeTable const& kbcC_DisplacementBaseMotionBC::Attributes() {
                                 .VariesBy<kbcC_DisplacementBaseMotionBCState>();
   return table;
 }
-
-kbcC_DisplacementBaseMotionBCState const& kbcC_DisplacementBaseMotionBC::ConstGetState(cow_String const& step) const {
-  CheckStep(step);
-  return kprC_CheckedCast<kbcC_DisplacementBaseMotionBCState>(*StateIn(step), __FILE__, __LINE__);
-}

@@ -13,8 +13,3 @@ cls_AttributeTable const& kbcC_VelocityBaseMotionBC::Attributes() {
                                 .VariesBy<kbcC_VelocityBaseMotionBCState>();
   return table;
 }
-
-kbcC_VelocityBaseMotionBCState const& kbcC_VelocityBaseMotionBC::ConstGetState(cow_String const& step) const {
-  CheckStep(step);
-  return kprC_CheckedCast<kbcC_VelocityBaseMotionBCState>(*StateIn(step), __FILE__, __LINE__);
-}

@@ -71,7 +71,7 @@ class TVO_API kprC_PropagatingContainer final : public kprC_StepRepository {
   /// First index at which the names of old and new list differ.
   int FirstDifference(kprC_StepList const& newList) const;
   bool Put(cow_String const& key, Holder const& object);
-  void NoteUpdate(cow_String const& key) const;
+  void NoteUpdate(cow_String const& key);
   bool FitsInitialStep(T const& object, kprC_StepList const& newList) const;
   static bool FitsStep(T const& object, kprC_StepHolder const& procedure);
   void SuppressInvalid(cow_String const& key, bool byStep, bool keep);

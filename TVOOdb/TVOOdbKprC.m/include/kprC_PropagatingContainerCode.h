@@ -135,6 +135,7 @@ void kprC_PropagatingContainer<T>::ClearStep(cow_String const& stepName) {
       continue;
     }
     kprC_NoteChange("Remove", key);
+    UpdateTimeStamp(key);
     cls_xoList<rgnC_Region> const regions = object.Regions(RGN_INSTANCE);
     map.Remove(key);
     danglingRegions = use.Drop(regions);
@@ -158,8 +159,9 @@ int kprC_PropagatingContainer<T>::FirstDifference(kprC_StepList const& newList) 
 }
 
 template <class T>
-void kprC_PropagatingContainer<T>::NoteUpdate(cow_String const& key) const {
+void kprC_PropagatingContainer<T>::NoteUpdate(cow_String const& key) {
   kprC_NoteChangeOfCommand("Modify", key);
+  UpdateTimeStamp(key);
 }
 
 template <class T>
@@ -195,11 +197,7 @@ void kprC_PropagatingContainer<T>::UpdateSteps(kprC_StepList const& newList, cow
     }
   }
   for (cow_String const& key : Keys()) {
-    if (map.ConstGet(key).ConstGet().IsSettledFor(newList)) {
-      map.ConstGet(key).ConstGet().AssertValid();
-    } else {
-      map.Get(key).Get().Initialize(newList);
-    }
+    map.Get(key).Get().Initialize(newList);
     if (growth == 0) {
       NoteUpdate(key);
     }
@@ -227,6 +225,7 @@ void kprC_PropagatingContainer<T>::RemoveStep(kprC_StepList const& newList) {
       map.Remove(key);
       danglingRegions.Concatenate(use.Drop(regions));
       kprC_NoteChange("Remove", key);
+      UpdateTimeStamp(key);
     } else {
       map.Get(key).Get().RemoveStep(removed);
       NoteUpdate(key);

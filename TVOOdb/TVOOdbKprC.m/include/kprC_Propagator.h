@@ -5,10 +5,7 @@
 
 #include "kprC_PropagatingState.h"
 #include "kprC_Procedures.h"
-#include "kprC_StepRules.h"
-
-/// Whether a procedure works on the modes of a frequency extraction, whose base state holds what is prescribed.
-bool TVO_API kprC_ProcIsModal(int procedure) noexcept;
+#include "kprC_StepDependent.h"
 
 /// Walks the quads of an object from the first step on and derives every step's status and effective state from what the
 /// user stored in the quads.
@@ -76,6 +73,14 @@ class TVO_API kprC_Propagator {
   void RestoreBase();
   void Record(int index, mdl_PropagationStatusEnm status);
 
+  /// What the walk asks of each step that depends on its procedure alone; steps in a row mostly share one.
+  struct StepKind {
+    int procedure = -1;
+    bool perturbs = false;
+    bool valid = false;
+  };
+  StepKind const& KindOf(Quad const& quad);
+
   struct Change {
     int index;
     mdl_PropagationStatusEnm status;
@@ -86,6 +91,7 @@ class TVO_API kprC_Propagator {
   Quads const& input_;
   std::vector<Change> changes_;
   bool created_ = false;
+  StepKind kind_;
   bool differs_ = false;  ///< the running state is known to differ from what the quad holds
   Running running_;
 };

@@ -28,7 +28,6 @@ void kprC_Propagator<Family>::PropagateGenAnalysisObject() {
   int index = 0;
   for (Quad const& quad : input_) {
     bool const suppressed = quad.IsStepSuppressed();
-    int const procedure = quad.Procedure();
     std::optional<Running> const before = suppressed ? std::optional(running_) : std::nullopt;
     if (created_) {
       EnterStep(quad);
@@ -37,8 +36,8 @@ void kprC_Propagator<Family>::PropagateGenAnalysisObject() {
       Modify(quad);
     }
     mdl_PropagationStatusEnm status = RecordedStatus(running_.status);
-    if (quad.HasStep() && running_.status != STATUS_NONE && !CheckValidStep(procedure)) {
-      status = GetInvalidStatus(procedure);
+    if (quad.HasStep() && running_.status != STATUS_NONE && !KindOf(quad).valid) {
+      status = GetInvalidStatus(quad.Procedure());
       if (running_.status == STATUS_DEACTIVATED && running_.state.HasValue()) {
         if (!suppressed) {
           deactivationPending = true;
@@ -122,8 +121,17 @@ void kprC_Propagator<Family>::ApplyTo(Quads& quads) {
 }
 
 template <class Family>
+auto kprC_Propagator<Family>::KindOf(Quad const& quad) -> StepKind const& {
+  int const procedure = quad.Procedure();
+  if (procedure != kind_.procedure) {
+    kind_ = {procedure, quad.Step().Perturbation() || kprC_ProcIsModal(procedure), CheckValidStep(procedure)};
+  }
+  return kind_;
+}
+
+template <class Family>
 void kprC_Propagator<Family>::EnterStep(Quad const& quad) {
-  if (quad.HasStep() && (quad.Step().Perturbation() || kprC_ProcIsModal(quad.Procedure()))) {
+  if (quad.HasStep() && KindOf(quad).perturbs) {
     Perturb(quad.Procedure());
   } else {
     Propagate(quad);

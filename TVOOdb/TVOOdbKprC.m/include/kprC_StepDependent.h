@@ -4,6 +4,9 @@
 #include "kprC_StepObject.h"
 #include "kprC_StepRules.h"
 
+/// Whether a procedure works on the modes of a frequency extraction, whose base state holds what is prescribed.
+TVO_API bool kprC_ProcIsModal(int procedure) noexcept;
+
 /// The machine of all step-dependent families: the list of state quads and all that is done to it.
 ///
 /// `Family` tells what differs: `Object`, `State` and `Propagator` (its classes), `Rules()` (kprC_StepRules: numbers, sets
@@ -37,6 +40,11 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
   Quad const& ConstGetStateQuad(cow_String const& step) const;
   Quad& GetStateQuad(cow_String const& step);
   Quads const& States() const noexcept { return states; }
+  /// The value in force in a step; refused as CheckStep refuses. Concrete classes give it as their own class of state.
+  virtual State const& ConstGetState(cow_String const& step) const {
+    CheckStep(step);
+    return ConstGetStateQuad(step).state.ConstGet();
+  }
   cow_List<cow_String> Amplitudes() const override;
 
   bool ValidInStep(int procedure, bool flag, bool relax, int firstProcedure) const override = 0;
@@ -58,6 +66,7 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
   virtual bool IsBuiltIn(mdl_PropagationStatusEnm status) const { return Answer(Family::Rules().builtIn, status); }
   static bool IsModified(mdl_PropagationStatusEnm status) { return Answer(Family::Rules().modified, status); }
   static bool IsIllegalMove(mdl_PropagationStatusEnm status) { return Answer(Family::Rules().illegalMove, status); }
+  static bool ProcIsModal(int const& procedure) noexcept { return kprC_ProcIsModal(procedure); }
   static bool IsValueComputed(mdl_PropagationStatusEnm status) { return Answer(Family::Rules().computed, status); }
 
   // ---- edits
@@ -84,15 +93,15 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
 
   // ---- steps around the object
   void Initialize(StepList const& steps) override;
+  void ForcedInitialize(StepList const& steps) override;
   void InsertStep(int index, kprC_StepNameProcedurePair const& step) override;
   void RemoveStep(cow_String const& step) override;
   void RenameStep(cow_String const& oldName, cow_String const& newName) override;
   void ReplaceStep(cow_String const& step) override;
-  bool IsSettledFor(StepList const& steps) const override;
 
   /// Derives status and effective state of every step, then validates.
   virtual void Sync();
-  /// Notes that members may be written to from outside: the next change of the steps derives all steps anew.
+  /// Notes that members may be written to from outside: the next validation derives all steps anew.
   void Unsettle() noexcept { settled_ = false; }
 
  protected:
@@ -118,6 +127,10 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
   void AssertChecks(std::span<kprC_StepCheck const> checks, Quad const* source, Quad const* destination) const;
   bool Holds(kprC_StepCheck const& check, Quad const* source, Quad const* destination) const;
   void DropStatesBetween(cow_String const& from, cow_String const& to);
+  /// Whether there is one quad for each step of the list, with its name and its very procedure object.
+  bool StandsOver(StepList const& steps) const;
+  /// One quad for each step of the list, with what the quad of that name held.
+  void LayOut(StepList const& steps);
   void Walk();
 
   /// The quads are what a walk over them gives. Kept so that one call does not walk twice; not stored.

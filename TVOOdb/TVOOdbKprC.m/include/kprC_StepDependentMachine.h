@@ -335,8 +335,8 @@ void kprC_StepDependent<Family>::UpdateStates() {
 // ---- steps around the object
 
 template <class Family>
-bool kprC_StepDependent<Family>::IsSettledFor(StepList const& steps) const {
-  if (!settled_ || steps.Length() != states.Length()) {
+bool kprC_StepDependent<Family>::StandsOver(StepList const& steps) const {
+  if (steps.Length() != states.Length()) {
     return false;
   }
   auto step = steps.begin();
@@ -350,17 +350,17 @@ bool kprC_StepDependent<Family>::IsSettledFor(StepList const& steps) const {
 }
 
 template <class Family>
-void kprC_StepDependent<Family>::Initialize(StepList const& steps) {
-  if (IsSettledFor(steps)) {
-    // The quads stay as they are; what is derived may depend on members that were set since.
-    Sync();
+void kprC_StepDependent<Family>::LayOut(StepList const& steps) {
+  Unsettle();
+  if (StandsOver(steps)) {
     return;
   }
   Quads const old = states;
   Quads fresh(steps.Length());
   int next = 0;  // the step lists mostly run in step with each other
   for (kprC_StepNameProcedurePair const& step : steps) {
-    int const found = next < old.Length() && old.UncheckedConstGet(next).stepName == step.stepName ? next : Find(step.stepName);
+    bool const inStep = next < old.Length() && old.UncheckedConstGet(next).stepName == step.stepName;
+    int const found = inStep ? next : Find(step.stepName);
     Quad quad(step);
     if (found >= 0) {
       quad.state = old.UncheckedConstGet(found).state;
@@ -369,9 +369,19 @@ void kprC_StepDependent<Family>::Initialize(StepList const& steps) {
     }
     fresh.Append(std::move(quad));
   }
-  Unsettle();
   states = fresh;
+}
+
+template <class Family>
+void kprC_StepDependent<Family>::Initialize(StepList const& steps) {
+  LayOut(steps);
   Sync();
+}
+
+template <class Family>
+void kprC_StepDependent<Family>::ForcedInitialize(StepList const& steps) {
+  LayOut(steps);
+  Walk();
 }
 
 template <class Family>
@@ -419,12 +429,12 @@ void kprC_StepDependent<Family>::Walk() {
     propagator.ApplyTo(states);
     states.NewUid();
   }
+  settled_ = true;
 }
 
 template <class Family>
 void kprC_StepDependent<Family>::Sync() {
   Walk();
-  settled_ = true;
   AssertValid();
 }
 

@@ -51,13 +51,11 @@ class TVO_API kprC_StepObject : public cls_Persistent {
   // What a change of the step list does to the object.
   virtual void Initialize(StepList const& steps) = 0;
   /// As Initialize, for objects that must go in though they would fail validation now.
-  virtual void ForcedInitialize(StepList const& steps) { Initialize(steps); }
+  virtual void ForcedInitialize(StepList const& steps) = 0;
   virtual void InsertStep(int index, kprC_StepNameProcedurePair const& step) = 0;
   virtual void RemoveStep(cow_String const& step) = 0;
   virtual void RenameStep(cow_String const& oldName, cow_String const& newName) = 0;
   virtual void ReplaceStep(cow_String const& step) = 0;
-  /// Whether the object was derived for just these steps, so that Initialize would change nothing.
-  virtual bool IsSettledFor(StepList const& steps) const = 0;
 
   kprC_SuppressionEnm suppressionState = RESUMED;
 };

@@ -36,6 +36,16 @@ class TVO_API kprC_StepState : public cls_Persistent {
   bool IsPropagationOf(kprC_StepState const& before) const;
 
   bool deactivate = false;
+
+ private:
+  struct Members;
+  static std::unique_ptr<Members const> FindMembers(kprC_StepState const& state);
+  Members const& OwnMembers() const;
+  static mdl_PropAttrBase& At(kprC_StepState& state, std::ptrdiff_t place);
+  static mdl_PropAttrBase const& At(kprC_StepState const& state, std::ptrdiff_t place);
+
+  /// Where the class has its propagating attributes: found once per class, and inherited by copies.
+  mutable Members const* members_ = nullptr;
 };
 
 /// A state whose family has a named amplitude in each step.

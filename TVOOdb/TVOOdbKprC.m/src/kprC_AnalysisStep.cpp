@@ -14,7 +14,7 @@ cls_AttributeTable const& kprC_AnalysisStep::Attributes() {
                                 .Attribute("matrixSolver", &Self::matrixSolver)
                                 .Attribute("matrixStorage", &Self::matrixStorage)
                                 .Attribute("convertSDI", &Self::convertSDI)
-                                .Attribute("activateElemContainer", &Self::activateElemContainer)
+                                .Required("activateElemContainer", &Self::activateElemContainer)
                                 .Attribute("scc", &Self::scc)
                                 .Attribute("scc2", &Self::scc2);
   return table;

@@ -108,6 +108,8 @@ bool kprC_StepContainer::InsertAfter(cow_String const& after, cow_String const& 
 
 bool kprC_StepContainer::EnterAfter(cow_String const& after, cow_String const& name, Holder const& step) {
   kprC_Assert(IsMember(after) && after != name, 84);
+  // The first name is the initial step's, always.
+  kprC_Assert(name != order_.First(), 148);
   if (Base::Remove(name)) order_.RemoveMember(name);
   bool taken = false;
   if (after == order_.Last()) {
@@ -135,6 +137,7 @@ bool kprC_StepContainer::Remove(cow_String const& name) {
 void kprC_StepContainer::ChangeKey(cow_String const& oldName, cow_String const& newName) {
   kprC_Assert(IsMember(oldName), 84);
   if (oldName == newName) return;
+  kprC_Assert(oldName != order_.First() && newName != order_.First(), 148);
   if (Base::Remove(newName)) order_.RemoveMember(newName);
   order_.Put(order_.FindMember(oldName), newName);
   unsigned int const id = GetID(oldName);

@@ -216,7 +216,9 @@ void kprC_StepSequencer::CheckIndex(int index) const {
 cow_List<unsigned int> kprC_StepSequencer::Appendable() const {
   // Suppressed entries and what is no procedure can have been asked for as well; they must not stand in for one.
   auto const procedures = [](cow_List<unsigned int> const& answers) {
-    return std::count_if(answers.begin(), answers.end(), [](unsigned int id) { return kprC_ProcedureBit(id) >= 0; });
+    int count = 0;
+    for (unsigned int const id : answers) count += kprC_ProcedureBit(id) >= 0 ? 1 : 0;
+    return count;
   };
   if (procedures(appendable_) + procedures(refused_) < ids_.Length()) {
     for (unsigned int const id : ids_) IsAppendable(id);

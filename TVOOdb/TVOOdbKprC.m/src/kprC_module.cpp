@@ -9,8 +9,8 @@ namespace {
 constexpr ddr_ModuleClass classes[] = {
 #define CLASS(phase, ...) ddr_ClassOf<__VA_ARGS__>(phase),
 #include "kprC_generalClasses.inc"
-    CLASS(4, mdl_IdRepositoryOfCows<cow_String, kprC_Step>)
-    CLASS(4, mdl_ExtensionWrapper<kprC_StepContainer>)
+    CLASS(3, mdl_IdRepositoryOfCows<cow_String, kprC_Step>)
+    CLASS(3, mdl_ExtensionWrapper<kprC_StepContainer>)
     CLASS(7, kprC_StepContainer)
     DDR_CONTAINER_SHORTCUT_CLASSES(kprC_StepContainer, kprC_Step)
 #include "kprC_classes.inc"

@@ -278,7 +278,10 @@ struct cls_Codec<cls_ValueList<V, Tag>> : cls_CollectionCodec<cls_ValueList<V, T
       }
       std::copy(inner.begin(), inner.end(), database.words.begin() + Base::Take(writer, list, count));
     } else if constexpr (std::is_same_v<V, double>) {
-      std::copy(list.begin(), list.end(), database.doubles.begin() + Base::Take(writer, list, count));
+      std::uint32_t at = Base::Take(writer, list, count);
+      for (double const element : list) {
+        database.doubles[at++] = element;
+      }
     } else {
       std::uint32_t at = Base::Take(writer, list, count);
       for (V const& element : list) {

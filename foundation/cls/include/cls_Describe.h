@@ -44,6 +44,19 @@ class cls_SharedAttribute final : public cls_MemberAttribute<C, M> {
   void NewUid(cls_Persistent&) const override {}
 };
 
+/// A holder that is never null: a row without its object is damaged.
+template <class C, class M>
+class cls_RequiredAttribute final : public cls_MemberAttribute<C, M> {
+ public:
+  using cls_MemberAttribute<C, M>::cls_MemberAttribute;
+  void Read(cls_Persistent& object, cls_ReadVisitor const& reader) const override {
+    cls_MemberAttribute<C, M>::Read(object, reader);
+    if (this->Embedded(object) == nullptr) {
+      reader.Refuse("an object is missing");
+    }
+  }
+};
+
 /// One part of a complex member, stored in rectangular form under a key of its own.
 template <class C>
 class cls_ComplexPart final : public cls_Attribute {
@@ -62,7 +75,7 @@ class cls_ComplexPart final : public cls_Attribute {
     cls_Codec<double>::Read(reader, column, value);
     Set(object, value);
   }
-  bool Equal(cls_Persistent const& a, cls_Persistent const& b) const override { return Of(a) == Of(b); }
+  bool Equal(cls_Persistent const& a, cls_Persistent const& b) const override { return Value(a) == Value(b); }
   std::string Text(cls_Persistent const& object) const override { return cls_NumberText(Value(object)); }
   bool SetText(cls_Persistent& object, std::string_view text) const override {
     double value = 0.0;
@@ -115,6 +128,12 @@ class cls_Describe : public cls_AttributeTable {
   template <class M, class C>
   cls_Describe&& Shared(int ordinal, char const* key, M C::*member) {
     Add(std::make_unique<cls_SharedAttribute<T, M>>(Field(ordinal, key), static_cast<M T::*>(member)));
+    return std::move(*this);
+  }
+  /// A holder that is never null.
+  template <class M, class C>
+  cls_Describe&& Required(char const* key, M C::*member) {
+    Add(std::make_unique<cls_RequiredAttribute<T, M>>(Field(NextOrdinal(), key), static_cast<M T::*>(member)));
     return std::move(*this);
   }
   /// A complex member under two keys with ordinals in sequence.

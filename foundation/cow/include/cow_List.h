@@ -67,7 +67,7 @@ class cow_ListConstIterator
 
   cow_ListConstIterator& operator++() noexcept
   {
-    if (++element_ == blockEnd_ && block_ != lastBlock_) EnterBlock(block_ + 1, 0);
+    if (++element_ == blockEnd_) LeaveBlock();
     return *this;
   }
 
@@ -83,29 +83,40 @@ class cow_ListConstIterator
     return a.element_ == b.element_;
   }
 
+  // Only behind the last element does an iterator stand at the end of a block, so a loop needs one comparison a turn.
+  friend bool operator==(cow_ListConstIterator const& a, std::default_sentinel_t) noexcept
+  {
+    return a.element_ == a.blockEnd_;
+  }
+
  private:
   template <class>
   friend class cow_List;
   using Block = cow_ListBlock<T>;
 
-  cow_ListConstIterator(Block* const* block, Block* const* lastBlock, int shift, int place) noexcept
-      : lastBlock_(lastBlock), shift_(shift)
+  cow_ListConstIterator(Block* const* block, Block* const* lastBlock, int shift, int place, int lastPlace) noexcept
+      : lastBlock_(lastBlock), lastEnd_((*lastBlock)->Elements() + lastPlace), shift_(shift)
   {
     EnterBlock(block, place);
+  }
+
+  void LeaveBlock() noexcept
+  {
+    if (block_ != lastBlock_) EnterBlock(block_ + 1, 0);
   }
 
   void EnterBlock(Block* const* block, int place) noexcept
   {
     block_ = block;
     element_ = (*block)->Elements() + place;
-    blockEnd_ = (*block)->Elements() + (1 << shift_);
+    blockEnd_ = block == lastBlock_ ? lastEnd_ : (*block)->Elements() + (1 << shift_);
   }
 
-  // The end stands behind the last element, in that element's block.
   T const* element_ = nullptr;
   T const* blockEnd_ = nullptr;
   Block* const* block_ = nullptr;
   Block* const* lastBlock_ = nullptr;
+  T const* lastEnd_ = nullptr;
   int shift_ = 0;
 };
 
@@ -209,8 +220,13 @@ class cow_List
   T const& First() const { return ConstGet(0); }
   T const& Last() const { return ConstGet(length_ - 1); }
 
-  const_iterator begin() const noexcept { return IteratorAt(0); }
-  const_iterator end() const noexcept { return IteratorAt(length_); }
+  const_iterator begin() const noexcept
+  {
+    if (length_ == 0) return {};
+    int const end = head_ + length_;
+    return {slots_ + (head_ >> shift_), slots_ + ((end - 1) >> shift_), shift_, head_ & Mask(), ((end - 1) & Mask()) + 1};
+  }
+  std::default_sentinel_t end() const noexcept { return {}; }
 
   /// True if both lists share their storage, and so are equal without a look at the elements.
   bool Identical(cow_List const& other) const noexcept
@@ -373,7 +389,10 @@ class cow_List
   }
 
   /// Copies the elements to `elements`, which has room for Length() of them. What it copied before an error stays.
-  void GetCArray(T* elements) const { std::copy(begin(), end(), elements); }
+  void GetCArray(T* elements) const
+  {
+    for (T const& element : *this) *elements++ = element;
+  }
 
   /// The index of the first element equal to `x`, or -1.
   int FindMember(T const& x) const
@@ -427,7 +446,13 @@ class cow_List
     requires cow_Comparable<T>
   {
     if (length_ != other.length_) return false;
-    return Identical(other) || std::equal(begin(), end(), other.begin());
+    if (Identical(other)) return true;
+    auto theirs = other.begin();
+    for (T const& mine : *this) {
+      if (!(mine == *theirs)) return false;
+      ++theirs;
+    }
+    return true;
   }
 
   friend bool operator==(cow_List const& a, cow_List const& b)
@@ -447,10 +472,10 @@ class cow_List
   template <class Order>
   void Sort(Order before)
   {
-    if (std::is_sorted(begin(), end(), before)) return;
     std::vector<T const*> order;
     order.reserve(static_cast<std::size_t>(length_));
     for (T const& element : *this) order.push_back(&element);
+    if (std::is_sorted(order.begin(), order.end(), [&](T const* a, T const* b) { return before(*a, *b); })) return;
     std::stable_sort(order.begin(), order.end(), [&](T const* a, T const* b) { return before(*a, *b); });
     cow_List sorted(length_);
     for (T const* element : order) sorted.Append(*element);
@@ -474,14 +499,6 @@ class cow_List
   int Capacity() const noexcept { return 1 << shift_; }
   int Mask() const noexcept { return Capacity() - 1; }
   T* Place(int position) const noexcept { return slots_[position >> shift_]->Elements() + (position & Mask()); }
-
-  const_iterator IteratorAt(int i) const noexcept
-  {
-    if (length_ == 0) return {};
-    Block* const* const last = slots_ + ((head_ + length_ - 1) >> shift_);
-    if (i == length_) return {last, last, shift_, ((head_ + i - 1) & Mask()) + 1};
-    return {slots_ + ((head_ + i) >> shift_), last, shift_, (head_ + i) & Mask()};
-  }
 
   template <class... Arguments>
   void Emplace(Arguments&&... arguments)
@@ -792,7 +809,7 @@ class cow_ListIter
     return !IsDone();
   }
 
-  bool IsDone() const noexcept { return current_ == list_.end(); }
+  bool IsDone() const noexcept { return current_ == std::default_sentinel; }
 
   /// @pre !IsDone()
   T const& Current() const noexcept { return *current_; }

@@ -99,6 +99,8 @@ class StoredModel {
       return act();
     } catch (StoredRefusal const& refusal) {
       RefuseInSection(refusal.what());
+    } catch (nex_CmdException<cow_String, 1> const& unknownName) {
+      Refuse(dbc_SectionKind::Strings, unknownName.what());
     }
   }
   [[noreturn]] void Refuse(dbc_SectionKind kind, std::string const& reason) const {

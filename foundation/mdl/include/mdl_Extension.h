@@ -43,7 +43,7 @@ template <class T>
 cls_AttributeTable const& mdl_ExtensionWrapper<T>::Attributes() {
   using Self = mdl_ExtensionWrapper<T>;
   static auto const table = cls_Describe<Self, mdl_Extension>(cls_InstanceOf<Self>::name, 203)
-                                .Attribute("extension", &Self::extension);
+                                .Required("extension", &Self::extension);
   return table;
 }
 

@@ -18,6 +18,8 @@ class TVO_API omu_ChangeHistory : public thr_ThreadSingleton<omu_ChangeHistory> 
   void addChange(omu_PrimTuple const& what);
   cow_List<omu_Change> const& Changes() const noexcept { return changes_; }
   void Clear() { changes_.Clear(); }
+  /// Keeps the first `count` changes: what was noted since then was undone.
+  void DropFrom(int count);
 
  private:
   cow_List<omu_Change> changes_;

@@ -3,6 +3,12 @@
 void omu_ChangeHistory::addChange(cow_String const& path, omu_PrimTuple const& what) { changes_.Append({path, what}); }
 void omu_ChangeHistory::addChange(omu_PrimTuple const& what) { changes_.Append({cow_String(), what}); }
 
+void omu_ChangeHistory::DropFrom(int count) {
+  while (changes_.Length() > count) {
+    changes_.RemoveLast();
+  }
+}
+
 void omu_CmdHistory::Add(cow_String const& command) { commands_.Append(command); }
 
 void omu_CmdHistory::RemoveLast(bool quietly) {
