@@ -228,7 +228,11 @@ TEST_F(PropagatingContainerTest, TheSameStepsChangeNothing) {
   kprC_StepList const same = bcs.Procedures();
   Container const before = bcs;
   bcs.UpdateSteps(same, "", false);
-  for (cow_String const& key : bcs.Keys()) EXPECT_EQ(&bcs.ConstGet(key), &before.ConstGet(key)) << key.CStr();
+  for (cow_String const& key : bcs.Keys()) {
+    EXPECT_TRUE(cls_EqualValues(bcs.ConstGet(key), before.ConstGet(key))) << key.CStr();
+    // What did not change is shared on.
+    EXPECT_TRUE(bcs.ConstGet(key).States().Identical(before.ConstGet(key).States())) << key.CStr();
+  }
   EXPECT_TRUE(TakeChanges().empty());
   // What was set on an object meanwhile counts all the same: no flow step takes a displacement that is fixed.
   Update("A B C D:W");

@@ -65,6 +65,16 @@ class kbcC_ComponentBC : public kbcC_StateAccess<Base, S> {
  public:
   using ComponentState = omu_PrimEnum<mdl_PropAttributeStateEnm, 1>;
 
+  /// Drops from all states what a step of that procedure does not know.
+  void ChangeProcedureType(unsigned int procedure) override {
+    this->Unsettle();
+    for (int i = 0; i < this->states.Length(); ++i) {
+      if (this->states.UncheckedConstGet(i).state.HasValue()) {
+        this->states.Get(i).state.Get().ChangeProcedureType(procedure);
+      }
+    }
+  }
+
  protected:
   static constexpr bool hasComplex = requires { S::ComplexComponents(); };
   /// What the imaginary part is where a step has none.

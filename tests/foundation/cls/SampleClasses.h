@@ -135,7 +135,7 @@ inline smp_Box smp_FilledBox(int seed) {
   box.number = -seed;
   box.lastId = 0x80000000u + static_cast<unsigned int>(seed);
   box.width = 1e300 / seed;
-  box.load = omi_complex(seed, -2.0);
+  box.load = omi_complex(seed, -2.0 * seed);
   smp_Box held;
   held.label = text("held");
   held.marks.Append(smp_Mark(seed));
