@@ -43,12 +43,13 @@ class kbcC_ComponentState : public Base {
   S const& Self() const { return static_cast<S const&>(*this); }
 };
 
-/// Declares a state's six real components.
+/// Declares a state's six real components and their keys.
 #define KBCC_REAL_COMPONENTS(Class, c1, c2, c3, r1, r2, r3)                        \
   mdl_PropAttr<double> c1, c2, c3, r1, r2, r3;                                     \
   static constexpr std::array<mdl_PropAttr<double> Class::*, 6> Components() {     \
     return {&Class::c1, &Class::c2, &Class::c3, &Class::r1, &Class::r2, &Class::r3}; \
-  }
+  }                                                                                \
+  static constexpr std::array<char const*, 6> ComponentKeys() { return {#c1, #c2, #c3, #r1, #r2, #r3}; }
 
 /// Gives the values of a step as the condition's own class of states.
 template <class Base, class S>

@@ -1,16 +1,11 @@
 #include "kbcC_AccelerationBC.h"
 
+#include "kbcC_describeComponents.h"
 #include "kbcC_perturbationSteps.h"
 
 cls_AttributeTable const& kbcC_AccelerationBCState::Attributes() {
-  using S = kbcC_AccelerationBCState;
-  static auto const table = cls_Describe<S, kbcC_BCState>("kbcC_AccelerationBCState", 203)
-                                .Attribute(0, "a1", &S::a1)
-                                .Attribute(1, "a2", &S::a2)
-                                .Attribute(2, "a3", &S::a3)
-                                .Attribute(3, "ar1", &S::ar1)
-                                .Attribute(4, "ar2", &S::ar2)
-                                .Attribute(5, "ar3", &S::ar3);
+  static auto const table =
+      kbcC_WithComponents(cls_Describe<kbcC_AccelerationBCState, kbcC_BCState>("kbcC_AccelerationBCState", 203));
   return table;
 }
 

@@ -1,14 +1,10 @@
 #include "kbcC_ConnVelocityBC.h"
 
+#include "kbcC_describeComponents.h"
+
 cls_AttributeTable const& kbcC_ConnVelocityBCState::Attributes() {
-  using S = kbcC_ConnVelocityBCState;
-  static auto const table = cls_Describe<S, kbcC_ConnectorBCState>("kbcC_ConnVelocityBCState", 203)
-                                .Attribute(0, "v1", &S::v1)
-                                .Attribute(1, "v2", &S::v2)
-                                .Attribute(2, "v3", &S::v3)
-                                .Attribute(3, "vr1", &S::vr1)
-                                .Attribute(4, "vr2", &S::vr2)
-                                .Attribute(5, "vr3", &S::vr3);
+  static auto const table =
+      kbcC_WithComponents(cls_Describe<kbcC_ConnVelocityBCState, kbcC_ConnectorBCState>("kbcC_ConnVelocityBCState", 203));
   return table;
 }
 

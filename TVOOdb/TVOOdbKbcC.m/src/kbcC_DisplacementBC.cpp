@@ -1,24 +1,11 @@
 #include "kbcC_DisplacementBC.h"
 
+#include "kbcC_describeComponents.h"
 #include "kbcC_perturbationSteps.h"
 
 cls_AttributeTable const& kbcC_DisplacementBCState::Attributes() {
-  using S = kbcC_DisplacementBCState;
-  // 6 is retired.
-  static auto const table = cls_Describe<S, kbcC_BCState>("kbcC_DisplacementBCState", 203)
-                                .Attribute(0, "u1", &S::u1)
-                                .Attribute(1, "u2", &S::u2)
-                                .Attribute(2, "u3", &S::u3)
-                                .Attribute(3, "ur1", &S::ur1)
-                                .Attribute(4, "ur2", &S::ur2)
-                                .Attribute(5, "ur3", &S::ur3)
-                                .Complex(7, "cU1real", "cU1imag", &S::cU1)
-                                .Complex(9, "cU2real", "cU2imag", &S::cU2)
-                                .Complex(11, "cU3real", "cU3imag", &S::cU3)
-                                .Complex(13, "cUR1real", "cUR1imag", &S::cUR1)
-                                .Complex(15, "cUR2real", "cUR2imag", &S::cUR2)
-                                .Complex(17, "cUR3real", "cUR3imag", &S::cUR3)
-                                .Attribute(19, "buckleCase", &S::buckleCase);
+  static auto const table =
+      kbcC_WithDisplacements(cls_Describe<kbcC_DisplacementBCState, kbcC_BCState>("kbcC_DisplacementBCState", 203));
   return table;
 }
 

@@ -1,16 +1,11 @@
 #include "kbcC_VelocityBC.h"
 
+#include "kbcC_describeComponents.h"
 #include "kbcC_perturbationSteps.h"
 
 cls_AttributeTable const& kbcC_VelocityBCState::Attributes() {
-  using S = kbcC_VelocityBCState;
-  static auto const table = cls_Describe<S, kbcC_BCState>("kbcC_VelocityBCState", 203)
-                                .Attribute(0, "v1", &S::v1)
-                                .Attribute(1, "v2", &S::v2)
-                                .Attribute(2, "v3", &S::v3)
-                                .Attribute(3, "vr1", &S::vr1)
-                                .Attribute(4, "vr2", &S::vr2)
-                                .Attribute(5, "vr3", &S::vr3);
+  static auto const table =
+      kbcC_WithComponents(cls_Describe<kbcC_VelocityBCState, kbcC_BCState>("kbcC_VelocityBCState", 203));
   return table;
 }
 
