@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr std::size_t listCount = mem_largestSmallBlock / 8;
-
 // Read by every thread without a pool of its own and written by none: its lists never change.
 constinit mem_Pool emptyPool{};
 
@@ -24,6 +22,7 @@ bool FailsNow() noexcept;
 
 using Block = mem_Pool::Block;
 
+constexpr std::size_t listCount = mem_largestSmallBlock / 8;
 constexpr std::size_t chunkSize = 64 * 1024;
 
 /// Memory not yet divided into blocks, of ended threads; it describes itself at its start.
