@@ -597,13 +597,17 @@ class EditSequence {
       }
       case 2: bc_.Insert(AnyStep(), static_cast<State const&>(*bc_.StateIn(bc_.CreateStepName()))); break;
       case 3: {
-        // In the step that creates, a deactivation goes on with the state and ends the object at the next walk.
+        // In the step that creates, a deactivation is a mark without effect: not worth the edit.
         cow_String const step = AnyStep();
         if (step != bc_.CreateStepName()) bc_.Deactivate(step);
         break;
       }
       case 4: bc_.Reset(AnyStep()); break;
-      case 5: bc_.Move(AnyStep(), AnyStep()); break;
+      case 5: {
+        cow_String const to = AnyStep();
+        bc_.Move(AnyStep(), to);
+        break;
+      }
       default: {
         std::string const& name = plan_[static_cast<std::size_t>(Below(static_cast<int>(plan_.size())))].first;
         if (suppressed_.erase(name) == 0) suppressed_.insert(name);

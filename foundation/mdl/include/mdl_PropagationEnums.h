@@ -3,14 +3,14 @@
 #include "omu_EnumCodec.h"
 
 /// How a value came to be in a step.
-enum mdl_PropAttributeStateEnm { UNSET = 0, SET = 1, PROPAGATED = 2, FREED = 3 };
+enum mdl_PropAttributeStateEnm : int { UNSET = 0, SET = 1, PROPAGATED = 2, FREED = 3 };
 
 template <>
 inline constexpr omu_EnumRow omu_EnumRows<mdl_PropAttributeStateEnm>[] = {
     {"UNSET", 0}, {"SET", 1}, {"PROPAGATED", 2}, {"FREED", 3}, {nullptr, 0}};
 
 /// How an object as a whole stands in a step.
-enum mdl_PropagationStatusEnm {
+enum mdl_PropagationStatusEnm : int {
   STATUS_NONE = 0,
   STATUS_CREATED = 1,
   STATUS_PROPAGATED = 2,
