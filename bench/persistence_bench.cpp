@@ -133,20 +133,21 @@ void BM_LoadBySqlite(benchmark::State& state) {
   for (auto _ : state) {
     sqlite3* database = nullptr;
     sqlite3_open(sqliteFile.c_str(), &database);
-    double sum = 0.0;
+    std::vector<std::vector<double>> columns;
     for (auto const& table : Rows().tables) {
       sqlite3_stmt* select = nullptr;
       std::string const sql = "SELECT * FROM " + TableName(*table);
       sqlite3_prepare_v2(database, sql.c_str(), -1, &select, nullptr);
-      int const columns = sqlite3_column_count(select);
+      std::size_t const first = columns.size();
+      columns.resize(first + static_cast<std::size_t>(sqlite3_column_count(select)));
       while (sqlite3_step(select) == SQLITE_ROW) {
-        for (int i = 0; i < columns; ++i) {
-          sum += sqlite3_column_double(select, i);
+        for (std::size_t i = first; i < columns.size(); ++i) {
+          columns[i].push_back(sqlite3_column_double(select, static_cast<int>(i - first)));
         }
       }
       sqlite3_finalize(select);
     }
-    benchmark::DoNotOptimize(sum);
+    benchmark::DoNotOptimize(columns.data());
     sqlite3_close(database);
   }
 }

@@ -276,7 +276,8 @@ struct cls_Codec<cls_ValueList<V, Tag>> : cls_CollectionCodec<cls_ValueList<V, T
       for (V const& element : list) {
         inner.push_back(cls_Codec<V>::WriteCollection(writer, element));
       }
-      std::copy(inner.begin(), inner.end(), database.words.begin() + Base::Take(writer, list, count));
+      std::uint32_t const at = Base::Take(writer, list, count);
+      std::copy(inner.begin(), inner.end(), database.words.begin() + at);
     } else if constexpr (std::is_same_v<V, double>) {
       std::uint32_t at = Base::Take(writer, list, count);
       for (double const element : list) {
