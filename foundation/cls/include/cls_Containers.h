@@ -189,30 +189,51 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
       cls_Codec<T>::Unshare(list.Get(i), context);
     }
   }
+  // Elements that have no name but that scripts make are typed by their values, which takes the comma.
+  static bool TypedByValues() {
+    if constexpr (cls_Named<T>) {
+      return false;
+    } else {
+      return !T::Attributes().ScriptingName().IsEmpty();
+    }
+  }
   static std::string Text(List const& list) {
     std::string text;
     for (T const& element : list) {
-      text += text.empty() ? "" : ",";
-      text += cls_Codec<T>::Text(element);
+      text += text.empty() ? "" : (TypedByValues() ? ";" : ",");
+      text += TypedByValues() ? cls_ValuesText(element) : cls_Codec<T>::Text(element);
     }
     return text;
   }
   static bool SetText(std::string_view text, List& list) {
-    if constexpr (cls_Named<T>) {
-      list.Clear();
-      while (!text.empty()) {
-        std::size_t const comma = text.find(',');
-        T element;
-        element.SetText(text.substr(0, comma));
-        list.Append(element);
-        text = comma == std::string_view::npos ? std::string_view() : text.substr(comma + 1);
-      }
-      return true;
-    } else {
+    if (!cls_Named<T> && !TypedByValues()) {
       return false;
     }
+    List read;
+    while (!text.empty()) {
+      std::size_t const end = text.find(cls_Named<T> ? ',' : ';');
+      T element;
+      if (!SetElement(element, text.substr(0, end))) {
+        return false;
+      }
+      read.Append(element);
+      text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
+    }
+    static_cast<cow_List<T>&>(list) = read;
+    return true;
   }
-  static constexpr char const* expected = cls_Named<T> ? "names with commas between them" : "no text: objects stand here";
+  static constexpr char const* expected =
+      cls_Named<T> ? "names with commas between them" : "objects that scripts make, as key=value,key=value;key=value";
+
+ private:
+  static bool SetElement(T& element, std::string_view text) {
+    if constexpr (cls_Named<T>) {
+      element.SetText(text);
+      return true;
+    } else {
+      return cls_SetValuesText(element, text);
+    }
+  }
 };
 
 /// Cells of the heap for one plain value.
