@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 namespace {
 
@@ -327,6 +328,41 @@ TEST(EditModelTest, OpensWhatItSavedWithValuesStatusesAndIdentities) {
   // Steps and objects of an opened model know each other as before.
   EXPECT_EQ(LastRow("open " + a + "\nresume boundaryConditions v\nremove steps B\n"),
             "v|NONE|CREATED|TYPE_INVALID|BASE_BUILT_IN|PROPAGATED");
+}
+
+TEST(EditModelTest, OpensTheStepsOfEveryPerturbationProcedure) {
+  std::string const a = scratch + "a";
+  std::string const b = scratch + "b";
+  std::string const sweep = " frequencyRange=\"lower=1,upper=50;lower=50,upper=500,nPoints=5\"\n";
+  std::string const edits = R"(
+step Load StaticStep after=Initial initialInc=0.1 minInc=1e-5 maxInc=1
+step Touch StaticLinearPerturbationStep after=Load solutionTechnique=LCP_CONTACT gapDistance=0.1
+step Buckle BuckleStep after=Touch numEigen=3 vectors=9
+step Part SubstructureGenerateStep after=Buckle substructureIdentifier=7 modeRange=start=1,end=9
+set steps Part retainedDofsList="region=Top face,dofs=1,2,3;region=Tip,dofs=1" globalDamping=MECHANICAL
+step Basis ReducedBasisGenerateStep after=Part
+step Modes FrequencyStep after=Basis numEigen=5
+step Damped ComplexFrequencyStep after=Modes frictionDamping=true
+step Shake ModalDynamicsStep after=Damped incSize=0.1
+step Noise RandomResponseStep after=Shake freq="lower=1,upper=50" selectedEigenmodes=1,3
+step Quake ResponseSpectrumStep after=Noise components="spectrum=Site,x=1,timeDuration=20" summation=DSC
+step Modal SteadyStateModalStep after=Quake)" + sweep + "step Projected SteadyStateSubspaceStep after=Modal projection=CONSTANT" +
+                            sweep + "step Direct SteadyStateDirectStep after=Projected" + sweep;
+  std::string const alone = "step Coil EmagTimeHarmonicStep after=Initial scale=LINEAR" + sweep;
+  for (auto const& [script, last] : {std::pair(edits, "Direct"), std::pair(alone, "Coil")}) {
+    std::string listing = "appendable\n";
+    std::istringstream words(script);
+    for (std::string word; words >> word;) {
+      if (word == "step" && words >> word) listing += "show steps " + word + "\n";
+    }
+    Result const before = RunScript(script + "save " + a + "\n" + listing);
+    EXPECT_EQ(before.status, 0) << before.out;
+    EXPECT_NE(before.out.find("frequencyRange|upper=50,lower=1,nPoints=20,"), std::string::npos) << before.out;
+    EXPECT_EQ(RunScript("open " + a + "\n" + listing + "save " + b + "\n").out, before.out);
+    EXPECT_EQ(FileText(a), FileText(b));
+    EXPECT_EQ(RunScript("open " + a + "\nset steps " + last + " frequencyRange=\"\"\n").out,
+              std::string("line 2: refused: ") + (last == std::string("Coil") ? "" : "No frequency range specified") + "\n");
+  }
 }
 
 TEST(EditModelTest, AlignsItsTablesByDefault) {
