@@ -63,8 +63,7 @@ TEST(PerturbationProceduresTest, StepsThatFindModesRefuse) {
                                    {89, "eigensolver=AMS"},
                                    {145, "matrixSolver=ITERATIVE"}});
   ExpectValidity<kprC_ComplexFrequencyStep>(
-      "", {1, 2, 145},
-      {{1, "maxEigen=0"}, {2, "numEigen=0"}, {0, "numEigen=5"}, {145, "matrixSolver=ITERATIVE"}});
+      "", {1, 2, 145}, {{1, "maxEigen=0"}, {2, "numEigen=0"}, {0, "numEigen=5"}, {145, "matrixSolver=ITERATIVE"}});
 }
 
 template <class Damping>
@@ -85,19 +84,18 @@ TEST(PerturbationProceduresTest, StepsThatUseModesRefuse) {
       Fill(step.*second);
     };
   };
-  ExpectValidity<Spectrum>(
-      "components=spectrum=Site", {38, 145, 165, 302},
-      {{0, "components=x=1;y=1;z=1"},
-       {38, "components=x=1;y=1;z=1;z=-1"},
-       {145, "matrixSolver=ITERATIVE"},
-       {165, damped(&Spectrum::directDamping, &Spectrum::rayleighDampingByFrequency)},
-       {165, damped(&Spectrum::rayleighDamping, &Spectrum::directDampingByFrequency)},
-       {165, damped(&Spectrum::compositeDamping, &Spectrum::directDampingByFrequency)},
-       {0, damped(&Spectrum::compositeDamping, &Spectrum::directDamping)},
-       {0, damped(&Spectrum::directDampingByFrequency, &Spectrum::rayleighDampingByFrequency)},
-       {302, "summation=DSC"},
-       {302, "summation=DSC components=timeDuration=2;timeDuration=0"},
-       {0, "summation=DSC components=timeDuration=2;timeDuration=3"}});
+  ExpectValidity<Spectrum>("components=spectrum=Site", {38, 145, 165, 302},
+                           {{0, "components=x=1;y=1;z=1"},
+                            {38, "components=x=1;y=1;z=1;z=-1"},
+                            {145, "matrixSolver=ITERATIVE"},
+                            {165, damped(&Spectrum::directDamping, &Spectrum::rayleighDampingByFrequency)},
+                            {165, damped(&Spectrum::rayleighDamping, &Spectrum::directDampingByFrequency)},
+                            {165, damped(&Spectrum::compositeDamping, &Spectrum::directDampingByFrequency)},
+                            {0, damped(&Spectrum::compositeDamping, &Spectrum::directDamping)},
+                            {0, damped(&Spectrum::directDampingByFrequency, &Spectrum::rayleighDampingByFrequency)},
+                            {302, "summation=DSC"},
+                            {302, "summation=DSC components=timeDuration=2;timeDuration=0"},
+                            {0, "summation=DSC components=timeDuration=2;timeDuration=3"}});
 }
 
 TEST(PerturbationProceduresTest, StepsThatSweepFrequenciesRefuse) {
@@ -163,11 +161,9 @@ TEST(PerturbationProceduresTest, RangesOfFrequenciesAndModesRefuse) {
       "start=2 end=8", {304, 305, 306, 307},
       {{304, "start=9"}, {0, "start=8"}, {305, "start=0"}, {306, "end=0"}, {307, "increment=0"}});
   ExpectValidity<kprC_RetainedDofs>("region=Base dofs=1,2", {248}, {{248, "dofs=1,0"}, {0, "dofs="}});
-  ExpectValidity<kprC_ResponseSpectrumComponent>("spectrum=Site", {37, 39, 301},
-                                                 {{37, "spectrum="},
-                                                  {39, "scale=0"},
-                                                  {301, "timeDuration=-1"},
-                                                  {0, "timeDuration=0"}});
+  ExpectValidity<kprC_ResponseSpectrumComponent>(
+      "spectrum=Site", {37, 39, 301},
+      {{37, "spectrum="}, {39, "scale=0"}, {301, "timeDuration=-1"}, {0, "timeDuration=0"}});
 }
 
 /// A damping refuses what one of its components refuses, and nothing else.
@@ -179,7 +175,8 @@ void ExpectDamping(char const* valid, std::set<int> const& listed,
   std::vector<ValidityRow<Damping>> rowsOfDamping{{0, [](Damping& damping) { damping.components.Clear(); }}};
   for (auto const& [code, edit] : edits) {
     rows.push_back({code, edit});
-    rowsOfDamping.push_back({code, [edit = edit](Damping& damping) { SetAttributes(damping.components.Get(1), edit); }});
+    rowsOfDamping.push_back(
+        {code, [edit = edit](Damping& damping) { SetAttributes(damping.components.Get(1), edit); }});
   }
   ExpectValidity<Component>(valid, listed, rows);
   ExpectValidity<Damping>(
