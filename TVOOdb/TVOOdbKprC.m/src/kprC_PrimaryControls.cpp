@@ -9,16 +9,20 @@
 
 namespace {
 
-// Places in the lists of time incrementation and of a field.
-constexpr int firstResidualCheck = 0;
-constexpr int rateCheck = 1;
-constexpr int increments = 9;
-constexpr int lastIteration = 10;
-constexpr int stabilityFraction = 26;
-constexpr int timeStretch = 27;
-constexpr int initialFlux = 2;
-constexpr int userFlux = 3;
-constexpr int zeroFluxes[] = {5, 9};
+// Places in the list of time incrementation, and in that of a field.
+enum Place {
+  firstGrowthCheck = 0,
+  firstRateCheck = 1,
+  accurateIncrements = 9,
+  lastInteger = 10,
+  stabilityFraction = 26,
+  timeStretch = 27,
+
+  initialFlux = 2,
+  userFlux = 3,
+  zeroFlux = 5,
+  zeroLocalFlux = 9,
+};
 
 bool IsInteger(double number) {
   double whole = 0.0;
@@ -55,16 +59,16 @@ void kprC_PrimaryControls::AssertNumbers(List const& list, std::span<double cons
 void kprC_PrimaryControls::AssertValid() const {
   kprC_Controls::AssertValid();
   if (discontinuous) {
-    kprC_Assert(timeIncrementation[firstResidualCheck] == 8.0, 105);
-    kprC_Assert(timeIncrementation[rateCheck] == 10.0, 106);
+    kprC_Assert(timeIncrementation[firstGrowthCheck] == 8.0, 105);
+    kprC_Assert(timeIncrementation[firstRateCheck] == 10.0, 106);
   }
   kprC_Assert(IsInteger(lineSearch[0]), 107);
   // One entry more than the text of 108 says.
-  for (int i = 0; i <= lastIteration; ++i) kprC_Assert(IsInteger(timeIncrementation[i]), 108);
+  for (int i = 0; i <= lastInteger; ++i) kprC_Assert(IsInteger(timeIncrementation[i]), 108);
   kprC_Assert(lineSearch[0] >= 0.0, 109);
-  kprC_Assert(timeIncrementation[increments] <= 10.0, 110);
+  kprC_Assert(timeIncrementation[accurateIncrements] <= 10.0, 110);
   kprC_Assert(timeIncrementation[stabilityFraction] <= 1.0, 111);
-  kprC_Assert(timeIncrementation[firstResidualCheck] >= 3.0, 112);
+  kprC_Assert(timeIncrementation[firstGrowthCheck] >= 3.0, 112);
   kprC_Assert(timeIncrementation[timeStretch] >= 1.0, 166);
 
   // Without a procedure nobody knows yet which numbers its solver will take.
@@ -76,7 +80,7 @@ void kprC_PrimaryControls::AssertValid() const {
   for (FieldGroup const& group : groups) {
     List const& numbers = this->*group.numbers;
     AssertNumbers(numbers, defaultField, group.refusals.extraneous);
-    for (int const place : zeroFluxes) kprC_Assert(place >= numbers.Length() || numbers[place] > 0.0, 113);
+    for (Place const place : {zeroFlux, zeroLocalFlux}) kprC_Assert(place >= numbers.Length() || numbers[place] > 0.0, 113);
     kprC_Assert(!IsGiven(numbers, initialFlux) || !IsGiven(numbers, userFlux), group.refusals.bothFluxes);
   }
 }
