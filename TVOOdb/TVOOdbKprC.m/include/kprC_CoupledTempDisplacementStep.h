@@ -7,7 +7,7 @@ class TVO_API kprC_CoupledTempDisplacementStep final : public kprC_CoupledStruct
   CLS_PERSISTENT(kprC, kprC_CoupledTempDisplacementStep)
 
  public:
-  enum CreepIntegrationEnm { IMPLICIT_EXPLICIT = 0, EXPLICIT = 1, CREEP_OFF = 2, IMPLICIT = 3 };
+  enum CreepIntegrationEnm : int { IMPLICIT_EXPLICIT = 0, EXPLICIT = 1, CREEP_OFF = 2, IMPLICIT = 3 };
 
   kprC_CoupledTempDisplacementStep() = default;
 
