@@ -13,6 +13,8 @@ class TVO_API kprC_PropagatingContainer final : public kprC_StepRepository {
   using Holder = cow_COW<T, cow_Virtual<T>>;
 
   kprC_PropagatingContainer() { UpdateTimeStamp(cow_String()); }
+  /// As read from the row alone; the flag is of use to other kinds of repository.
+  kprC_PropagatingContainer(cls_ReadVisitor const& reader, bool) : kprC_PropagatingContainer(reader) {}
 
   char const* RepositoryName() const override;
   cow_List<kprC_OfferedMenu> OfferedTypes(int procedure) const override;
