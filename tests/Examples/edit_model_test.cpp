@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <sstream>
+#include <vector>
 
 namespace {
 
@@ -330,38 +330,54 @@ TEST(EditModelTest, OpensWhatItSavedWithValuesStatusesAndIdentities) {
             "v|NONE|CREATED|TYPE_INVALID|BASE_BUILT_IN|PROPAGATED");
 }
 
-TEST(EditModelTest, OpensTheStepsOfEveryPerturbationProcedure) {
+TEST(EditModelTest, OpensEveryProcedureAsItWasSaved) {
+  // A new step takes what it needs and is valid then; not all of them may stand in one model.
+  std::string const inc = " initialInc=0.1 minInc=1e-5 maxInc=0.5 ";
+  std::string const sweep = " frequencyRange=\"lower=1,upper=50;lower=50,upper=500,nPoints=5\"";
+  std::vector<std::vector<std::string>> const models{
+      {"GeostaticStep utol=1" + inc, "SoilsStep utol=1 end=1e-3" + inc, "StaticStep fullyPlastic=Web" + inc,
+       "ViscoStep cetol=1e-3 integration=EXPLICIT_ONLY" + inc, "DirectCyclicStep deltmx=1 fatigue=true" + inc,
+       "ImplicitDynamicsStep alpha=-0.05 initialCondition=OFF" + inc,
+       "StaticRiksStep initialArcInc=0.1 monitorNodeOn=true region=Tip monitorDof=2"},
+      {"CoupledTempDisplacementStep deltmx=1 creepIntegration=IMPLICIT" + inc,
+       "ElecThermalStructuralStep cetol=1e-3 creepIntegration=CREEP_OFF" + inc},
+      {"HeatTransferStep mxdem=0.2" + inc, "CoupledThermalElectricStep response=STEADY_STATE" + inc},
+      {"MassDiffusionStep end=0.1" + inc},
+      {"CoupledThermalElectrochemicalStep solutionTechnique=SEPARATED" + inc},
+      {"CoupledThermalElectrochemStructStep deltmx=1" + inc},
+      {"CoupledThermalElectrochemStructPorepressureStep deltmx=1 advection=true" + inc},
+      {"FrequencyStep numEigen=3", "SubspaceDynamicsStep incSize=0.1 vectors=3"},
+      {"ExplicitDynamicsStep timeIncrementationMethod=AUTOMATIC_EBE", "AnnealStep refTemp=20",
+       "TempDisplacementDynamicsStep timeIncrementationMethod=FIXED_EBE"},
+      {"StaticStep" + inc, "StaticLinearPerturbationStep solutionTechnique=LCP_CONTACT gapDistance=0.1",
+       "BuckleStep numEigen=3 vectors=9",
+       "SubstructureGenerateStep substructureIdentifier=7 globalDamping=MECHANICAL modeRange=start=1,end=9"
+       " retainedDofsList=\"region=Top face,dofs=1,2,3;region=Tip,dofs=1\"",
+       "ReducedBasisGenerateStep", "FrequencyStep numEigen=5", "ComplexFrequencyStep frictionDamping=true",
+       "ModalDynamicsStep incSize=0.1", "RandomResponseStep freq=lower=1,upper=50 selectedEigenmodes=1,3",
+       "ResponseSpectrumStep components=spectrum=Site,x=1,timeDuration=20 summation=DSC",
+       "SteadyStateModalStep" + sweep, "SteadyStateSubspaceStep projection=CONSTANT" + sweep,
+       "SteadyStateDirectStep scale=LINEAR" + sweep},
+      {"EmagTimeHarmonicStep" + sweep},
+      {"FlowStep energyEquation=TEMPERATURE turbulenceModel=KEPS_RNG advectionFactor=GALERKIN", "FlowStep"},
+  };
   std::string const a = scratch + "a";
-  std::string const b = scratch + "b";
-  std::string const sweep = " frequencyRange=\"lower=1,upper=50;lower=50,upper=500,nPoints=5\"\n";
-  std::string const edits = R"(
-step Load StaticStep after=Initial initialInc=0.1 minInc=1e-5 maxInc=1
-step Touch StaticLinearPerturbationStep after=Load solutionTechnique=LCP_CONTACT gapDistance=0.1
-step Buckle BuckleStep after=Touch numEigen=3 vectors=9
-step Part SubstructureGenerateStep after=Buckle substructureIdentifier=7 modeRange=start=1,end=9
-set steps Part retainedDofsList="region=Top face,dofs=1,2,3;region=Tip,dofs=1" globalDamping=MECHANICAL
-step Basis ReducedBasisGenerateStep after=Part
-step Modes FrequencyStep after=Basis numEigen=5
-step Damped ComplexFrequencyStep after=Modes frictionDamping=true
-step Shake ModalDynamicsStep after=Damped incSize=0.1
-step Noise RandomResponseStep after=Shake freq="lower=1,upper=50" selectedEigenmodes=1,3
-step Quake ResponseSpectrumStep after=Noise components="spectrum=Site,x=1,timeDuration=20" summation=DSC
-step Modal SteadyStateModalStep after=Quake)" + sweep + "step Projected SteadyStateSubspaceStep after=Modal projection=CONSTANT" +
-                            sweep + "step Direct SteadyStateDirectStep after=Projected" + sweep;
-  std::string const alone = "step Coil EmagTimeHarmonicStep after=Initial scale=LINEAR" + sweep;
-  for (auto const& [script, last] : {std::pair(edits, "Direct"), std::pair(alone, "Coil")}) {
-    std::string listing = "appendable\n";
-    std::istringstream words(script);
-    for (std::string word; words >> word;) {
-      if (word == "step" && words >> word) listing += "show steps " + word + "\n";
+  for (auto const& model : models) {
+    std::string edits;
+    std::string listing;
+    std::string last = "Initial";
+    for (std::string const& step : model) {
+      std::size_t const space = std::min(step.find(' '), step.size());
+      std::string const name = "S" + std::to_string(&step - model.data());
+      edits += "step " + name + " " + step.substr(0, space) + " after=" + last + step.substr(space) + "\n";
+      listing += "show steps " + name + "\n";
+      last = name;
     }
-    Result const before = RunScript(script + "save " + a + "\n" + listing);
+    Result const before = RunScript(edits + "save " + a + "\n" + listing);
     EXPECT_EQ(before.status, 0) << before.out;
-    EXPECT_NE(before.out.find("frequencyRange|upper=50,lower=1,nPoints=20,"), std::string::npos) << before.out;
-    EXPECT_EQ(RunScript("open " + a + "\n" + listing + "save " + b + "\n").out, before.out);
-    EXPECT_EQ(FileText(a), FileText(b));
-    EXPECT_EQ(RunScript("open " + a + "\nset steps " + last + " frequencyRange=\"\"\n").out,
-              std::string("line 2: refused: ") + (last == std::string("Coil") ? "" : "No frequency range specified") + "\n");
+    EXPECT_EQ(RunScript("open " + a + "\n" + listing).out, before.out);
+    bool const sweeps = edits.ends_with(sweep + "\n");
+    EXPECT_EQ(before.out.find("frequencyRange|upper=50,lower=1,nPoints=20,") != std::string::npos, sweeps) << before.out;
   }
 }
 
