@@ -49,6 +49,7 @@ inline kprC_StepHolder StepOf(char procedure) {
     case 'd': return kprC_StepHolder(new PlannedStep(MassDiffusion));
     case 'h': return kprC_StepHolder(new PlannedStep(EmagTimeHarmonic));
     case 'u': return kprC_StepHolder(new PlannedStep(SubstructureGenerate));
+    case 'T': return kprC_StepHolder(new PlannedStep(CoupledTempDisplacement));
     default: return kprC_StepHolder(new kprC_StaticStep());
   }
 }

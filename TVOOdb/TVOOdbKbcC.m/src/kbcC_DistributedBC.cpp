@@ -1,6 +1,8 @@
 #include "kbcC_DistributedBC.h"
 
+#include "kbcC_BCTypes.h"
 #include "kbcC_perturbationSteps.h"
+#include "kprC_StepList.h"
 
 cls_AttributeTable const& kbcC_DistributedBCState::Attributes() {
   static auto const table = cls_Describe<kbcC_DistributedBCState, kbcC_BCState>("kbcC_DistributedBCState", 203)
@@ -15,7 +17,10 @@ cls_AttributeTable const& kbcC_DistributedBC::Attributes() {
 }
 
 bool kbcC_DistributedBC::ValidInPerturbationStep(int procedure, bool flag) const {
-  return kbcC_MayStandIn(kbcC_PerturbationSteps::ofComponents, procedure, flag);
+  // What a step takes that works on the modes of a structure is what the extraction of these modes took.
+  auto const frequency = static_cast<int>(kprC_Procedure::Frequency);
+  return kbcC_MayStandIn(kbcC_PerturbationSteps::ofComponents, procedure, flag) &&
+         kbcC_isOfferedBCTypeforStep(static_cast<int>(DynTypeId()), frequency, STANDARD_ANALYSIS);
 }
 
 void kbcC_DistributedBC::AssertValid() const {

@@ -56,7 +56,8 @@ void kbcC_EulerianMotionBCState::AssertValid() const {
       {&S::volumeThreshold, 0.0, 1.0, 74},      {&S::bufferSize, 0.0, noLimit, 75},
   };
   for (Range const& range : ranges) {
+    // Inherited numbers passed where they were given, and are zero in a perturbation.
     mdl_PropAttr<double> const& number = this->*range.value;
-    kbcC_Assert(number.IsFree() || (number.ConstGet() >= range.least && number.ConstGet() <= range.most), range.error);
+    kbcC_Assert(number != SET || (number.ConstGet() >= range.least && number.ConstGet() <= range.most), range.error);
   }
 }
