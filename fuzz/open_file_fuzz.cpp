@@ -15,6 +15,8 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 
 namespace {
 
+constexpr int revisions[] = {dbc_SchemaRevision, 203, 510, 831, 858, 1033, 1389, 2001};
+
 /// The input with right lengths and checksums, so that what stands behind them is reached.
 std::vector<std::uint8_t> Resealed(std::span<std::uint8_t const> sections, int schemaRevision) {
   std::vector<dbc_SectionContent> contents;
@@ -32,12 +34,13 @@ std::vector<std::uint8_t> Resealed(std::span<std::uint8_t const> sections, int s
 
 }  // namespace
 
-// The first byte tells whether the rest is a file or the contents of its sections.
+// The lowest bit of the first byte tells whether the rest is a file or the contents of its sections, the others of which
+// revision.
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   if (size == 0) return 0;
   std::span<std::uint8_t const> const rest(data + 1, size - 1);
   std::vector<std::uint8_t> resealed;
-  if (data[0] % 2 == 1) resealed = Resealed(rest, dbc_SchemaRevision);
+  if (data[0] % 2 == 1) resealed = Resealed(rest, revisions[data[0] / 2 % std::size(revisions)]);
   std::unique_ptr<cls_Persistent> model;
   try {
     model = dbc_DecodeObject(data[0] % 2 == 1 ? std::span<std::uint8_t const>(resealed) : rest, "input");
