@@ -22,7 +22,7 @@ class TVO_API kprC_PropagatingContainer final : public kprC_StepRepository {
   bool IsMember(cow_String const& key) const override { return map.IsMember(key); }
   int UnsuppressedSize() const override;
   cow_List<cow_String> Keys() const override;
-  kprC_StepList const& Procedures() const noexcept { return procedures; }
+  kprC_StepList const& Procedures() const noexcept override { return procedures; }
 
   T const& ConstGet(cow_String const& key) const;
   /// Notes ("Modify", key) and gives the object for writing.
