@@ -101,7 +101,8 @@ TEST(LoadTest, KnowsItsStatusesOnly) {
   std::vector<std::function<bool(mdl_PropagationStatusEnm)>> const predicates = {
       [&](auto status) { return load.IsActive(status); },      [&](auto status) { return load.IsPropagated(status); },
       [&](auto status) { return load.IsBuiltIn(status); },     [](auto status) { return Load::IsModified(status); },
-      [](auto status) { return Load::IsIllegalMove(status); }, [](auto status) { return Load::IsValueComputed(status); }};
+      [](auto status) { return Load::IsIllegalMove(status); },
+      [](auto status) { return Load::IsValueComputed(status); }};
   std::vector<std::set<int>> const yes = {{1, 2, 3, 8}, {2}, {8}, {1, 3, 4}, {1, 3, 4}, {}};
   for (std::size_t i = 0; i < predicates.size(); ++i) {
     for (int status = 0; status < 18; ++status) {

@@ -22,7 +22,7 @@ using Loads = kprC_PropagatingContainer<kloC_Load>;
 class MixedModel {
  public:
   explicit MixedModel(unsigned int seed) : random_(seed) {
-    for (int i = 0; i < 20; ++i) plan_.push_back({"S" + std::to_string(i), i % 7 == 5 ? 'F' : i % 7 == 6 ? 'M' : 'G', false});
+    for (std::size_t i = 0; i < 20; ++i) plan_.push_back({"S" + std::to_string(i), "GGGGGFM"[i % 7], false});
     Carry("", false);
     for (int i = 0; i < 30; ++i) AddObjects(i);
   }
@@ -105,7 +105,9 @@ class MixedModel {
   template <class T>
   T* AnyObject() {
     cow_List<cow_String> const keys = ConstContainer<T>().Keys();
-    return keys.IsEmpty() ? nullptr : &Container<T>().Get(keys[static_cast<int>(Below(static_cast<std::size_t>(keys.Length())))]);
+    if (keys.IsEmpty()) return nullptr;
+    std::size_t const at = Below(static_cast<std::size_t>(keys.Length()));
+    return &Container<T>().Get(keys[static_cast<int>(at)]);
   }
   template <class T>
   void EditAny() {
@@ -134,7 +136,8 @@ class MixedModel {
     std::size_t const at = Below(plan_.size());
     switch (Below(7)) {
       case 0:
-        plan_.insert(plan_.begin() + static_cast<std::ptrdiff_t>(at), {"N" + std::to_string(++named_), "GGFM"[Below(4)], false});
+        plan_.insert(plan_.begin() + static_cast<std::ptrdiff_t>(at),
+                     {"N" + std::to_string(++named_), "GGFM"[Below(4)], false});
         Carry("", false);
         break;
       case 1:

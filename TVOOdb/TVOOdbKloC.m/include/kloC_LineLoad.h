@@ -21,12 +21,12 @@ class TVO_API kloC_LineLoad final : public kprC_StateAccess<kloC_Vector, kloC_Li
   CLS_PERSISTENT(kloC, kloC_LineLoad)
 
  public:
-  kloC_LineLoad() = default;
-  CategoryEnm Category() const override { return MECHANICAL; }
-  bool AllowedInALoadCase() const override { return true; }
   /// Which directions the components have: the model's or the beam's.
   enum class SystemEnm { GLOBAL = 0, LOCAL = 1 };
 
+  kloC_LineLoad() = default;
+  CategoryEnm Category() const override { return MECHANICAL; }
+  bool AllowedInALoadCase() const override { return true; }
   /// The kind has had a distribution of its own for longer than all vectors have one; either may be set.
   std::optional<kloC_DistributionEnm> Distribution() const override {
     return distType != kloC_DistributionEnm::UNIFORM ? distType : distribution;

@@ -12,9 +12,9 @@ class TVO_API kloC_LoadTypeLabelMap final : public uti_TranslationMap, public om
   kloC_LoadTypeLabelMap();
 };
 
-// The menus: labels of the types that can be created in a step. `procedure` is the step's type identifier; the initial
-// step, 0, takes no load. `mode` 0 gives the labels as stored, any other in the encoding of the locale. A procedure that
-// is not known has empty menus.
+// The menus: labels of the types that can be created in a step. `procedure` is the step's type identifier; the
+// initial step, 0, takes no load. `mode` 0 gives the labels as stored, any other in the encoding of the locale. A
+// procedure that is not known has empty menus.
 
 TVO_API cow_List<cow_String> kloC_getMechanicalLoadTypesforStep(int procedure, TVOBasStringMode mode);
 TVO_API cow_List<cow_String> kloC_getThermalLoadTypesforStep(int procedure, TVOBasStringMode mode);
@@ -27,6 +27,6 @@ TVO_API cow_List<cow_String> kloC_getOtherLoadTypesforStep(int procedure, TVOBas
 
 /// Whether one of the menus offers the type. A type that has no label is none to ask for: it raises cow_KeyError.
 TVO_API bool kloC_isValidLoadTypeforStep(int loadType, int procedure);
-/// The same, but false for a type without a label. Constant time, and nothing is allocated: every edit asks this for each
-/// of its steps.
+/// The same, but false for a type without a label. Constant time, and nothing is allocated: every edit asks this for
+/// each of its steps.
 TVO_API bool kloC_isOfferedLoadTypeforStep(int loadType, int procedure) noexcept;

@@ -16,11 +16,11 @@ class TVO_API kloC_PipePressure final : public kprC_StateAccess<kloC_Pressure, k
   CLS_PERSISTENT(kloC, kloC_PipePressure)
 
  public:
+  enum class SideEnm { INTERNAL = 0, EXTERNAL = 1 };
+
   kloC_PipePressure() = default;
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
-  enum class SideEnm { INTERNAL = 0, EXTERNAL = 1 };
-
   KPRC_NAMED_CMD(constructorCmd, "PipePressure")
   KPRC_CMD(side)
   KPRC_CMD(diameter)

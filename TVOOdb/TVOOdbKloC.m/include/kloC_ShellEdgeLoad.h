@@ -16,13 +16,12 @@ class TVO_API kloC_ShellEdgeLoad final : public kprC_StateAccess<kloC_Traction, 
   CLS_PERSISTENT(kloC, kloC_ShellEdgeLoad)
 
  public:
+  enum class TractionEnm { NORMAL = 0, TRANSVERSE = 1, SHEAR = 2, MOMENT = 3, GENERAL = 4 };
+
   kloC_ShellEdgeLoad() = default;
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
-  enum class TractionEnm { NORMAL = 0, TRANSVERSE = 1, SHEAR = 2, MOMENT = 3, GENERAL = 4 };
-
   KPRC_NAMED_CMD(constructorCmd, "ShellEdgeLoad")
-
 
   TractionEnm traction = TractionEnm::NORMAL;
 

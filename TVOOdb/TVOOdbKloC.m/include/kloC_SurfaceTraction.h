@@ -16,13 +16,12 @@ class TVO_API kloC_SurfaceTraction final : public kprC_StateAccess<kloC_Traction
   CLS_PERSISTENT(kloC, kloC_SurfaceTraction)
 
  public:
+  enum class TractionEnm { SHEAR = 0, GENERAL = 1 };
+
   kloC_SurfaceTraction() = default;
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
-  enum class TractionEnm { SHEAR = 0, GENERAL = 1 };
-
   KPRC_NAMED_CMD(constructorCmd, "SurfaceTraction")
-
 
   TractionEnm traction = TractionEnm::SHEAR;
 

@@ -17,6 +17,7 @@ class TVO_API kloC_Traction : public kloC_ComplexLoad<kloC_Traction, kloC_Tracti
 
  public:
   enum class AxisEnm { AXIS_1 = 0, AXIS_2 = 1, AXIS_3 = 2 };
+
   KLOC_MAGNITUDE_ACCESS()
   KPRC_CMD(traction)
   KPRC_CMD(userCsys)

@@ -1,8 +1,8 @@
 #include "kloC_ConcentratedConcentrationFlux.h"
 
 cls_AttributeTable const& kloC_ConcentratedConcentrationFluxState::Attributes() {
-  static auto const table =
-      cls_Describe<kloC_ConcentratedConcentrationFluxState, kloC_ScalarState>("kloC_ConcentratedConcentrationFluxState", 203);
+  using Describe = cls_Describe<kloC_ConcentratedConcentrationFluxState, kloC_ScalarState>;
+  static auto const table = Describe("kloC_ConcentratedConcentrationFluxState", 203);
   return table;
 }
 

@@ -3,16 +3,17 @@
 #include <array>
 
 cls_AttributeTable const& kloC_InertiaReliefState::Attributes() {
-  static auto const table = cls_Describe<kloC_InertiaReliefState, kloC_LoadState>("kloC_InertiaReliefState", 203)
-                                .Attribute(0, "fixed", &kloC_InertiaReliefState::fixed)
-                                .Attribute(1, "u1", &kloC_InertiaReliefState::u1)
-                                .Attribute(2, "u2", &kloC_InertiaReliefState::u2)
-                                .Attribute(3, "u3", &kloC_InertiaReliefState::u3)
-                                .Attribute(4, "ur1", &kloC_InertiaReliefState::ur1)
-                                .Attribute(5, "ur2", &kloC_InertiaReliefState::ur2)
-                                .Attribute(6, "ur3", &kloC_InertiaReliefState::ur3)
-                                .Attribute(7, "referencePoint", &kloC_InertiaReliefState::referencePoint)
-                                .Attribute(8, "isReferencePointDefined", &kloC_InertiaReliefState::isReferencePointDefined);
+  static auto const table =
+      cls_Describe<kloC_InertiaReliefState, kloC_LoadState>("kloC_InertiaReliefState", 203)
+          .Attribute(0, "fixed", &kloC_InertiaReliefState::fixed)
+          .Attribute(1, "u1", &kloC_InertiaReliefState::u1)
+          .Attribute(2, "u2", &kloC_InertiaReliefState::u2)
+          .Attribute(3, "u3", &kloC_InertiaReliefState::u3)
+          .Attribute(4, "ur1", &kloC_InertiaReliefState::ur1)
+          .Attribute(5, "ur2", &kloC_InertiaReliefState::ur2)
+          .Attribute(6, "ur3", &kloC_InertiaReliefState::ur3)
+          .Attribute(7, "referencePoint", &kloC_InertiaReliefState::referencePoint)
+          .Attribute(8, "isReferencePointDefined", &kloC_InertiaReliefState::isReferencePointDefined);
   return table;
 }
 

@@ -11,12 +11,13 @@ cls_AttributeTable const& kloC_SubmodelStressBasedState::Attributes() {
 }
 
 cls_AttributeTable const& kloC_SubmodelStressBased::Attributes() {
-  static auto const table = cls_Describe<kloC_SubmodelStressBased, kloC_Load>("kloC_SubmodelStressBased", 1017)
-                                .Attribute(4, "globalDrivingRegion", &kloC_SubmodelStressBased::globalDrivingRegion)
-                                .Attribute(5, "absoluteExteriorTolerance", &kloC_SubmodelStressBased::absoluteExteriorTolerance)
-                                .Attribute(6, "exteriorTolerance", &kloC_SubmodelStressBased::exteriorTolerance)
-                                .Constructor(constructorCmd())
-                                .VariesBy<kloC_SubmodelStressBasedState>();
+  static auto const table =
+      cls_Describe<kloC_SubmodelStressBased, kloC_Load>("kloC_SubmodelStressBased", 1017)
+          .Attribute(4, "globalDrivingRegion", &kloC_SubmodelStressBased::globalDrivingRegion)
+          .Attribute(5, "absoluteExteriorTolerance", &kloC_SubmodelStressBased::absoluteExteriorTolerance)
+          .Attribute(6, "exteriorTolerance", &kloC_SubmodelStressBased::exteriorTolerance)
+          .Constructor(constructorCmd())
+          .VariesBy<kloC_SubmodelStressBasedState>();
   return table;
 }
 

@@ -1,8 +1,8 @@
 #include "kloC_SurfaceConcentrationFlux.h"
 
 cls_AttributeTable const& kloC_SurfaceConcentrationFluxState::Attributes() {
-  static auto const table =
-      cls_Describe<kloC_SurfaceConcentrationFluxState, kloC_DistributedState>("kloC_SurfaceConcentrationFluxState", 203);
+  using Describe = cls_Describe<kloC_SurfaceConcentrationFluxState, kloC_DistributedState>;
+  static auto const table = Describe("kloC_SurfaceConcentrationFluxState", 203);
   return table;
 }
 

@@ -200,7 +200,8 @@ inline constexpr auto kloC_ElectrochemicalMenu = [] {
       // clang-format on
   });
 }();
-static_assert(kprC_RowsAreDisjoint(kloC_ElectrochemicalMenu) && kprC_AllLabelled(kloC_ElectrochemicalMenu, kloC_TypeLabels));
+static_assert(kprC_RowsAreDisjoint(kloC_ElectrochemicalMenu) &&
+              kprC_AllLabelled(kloC_ElectrochemicalMenu, kloC_TypeLabels));
 
 /// Mass diffusion types by step.
 inline constexpr auto kloC_MassDiffusionMenu = [] {
@@ -213,7 +214,8 @@ inline constexpr auto kloC_MassDiffusionMenu = [] {
       // clang-format on
   });
 }();
-static_assert(kprC_RowsAreDisjoint(kloC_MassDiffusionMenu) && kprC_AllLabelled(kloC_MassDiffusionMenu, kloC_TypeLabels));
+static_assert(kprC_RowsAreDisjoint(kloC_MassDiffusionMenu) &&
+              kprC_AllLabelled(kloC_MassDiffusionMenu, kloC_TypeLabels));
 
 /// Acoustic types by step.
 inline constexpr auto kloC_AcousticMenu = [] {

@@ -4,8 +4,8 @@
 
 #include "kprC_StepDependent.h"
 
-// Access to the values of a step, for all families. A state lists its propagating values in `Components()`, as members of
-// one length; one that has complex values, too, lists these in `ComplexComponents()`.
+// Access to the values of a step, for all families. A state lists its propagating values in `Components()`; one that has
+// complex values, too, lists these in `ComplexComponents()`.
 
 /// Gives the values of a step as the object's own class of states.
 template <class Base, class S>
