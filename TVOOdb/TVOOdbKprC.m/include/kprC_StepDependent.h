@@ -117,6 +117,8 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
   virtual void AssertCreateStep(int procedure) const = 0;
   virtual void AssertMove(Quad const&, Quad const&) const {}
 
+  /// The predicate's answer; a status that it does not know is refused with the family's number.
+  static bool Answer(kprC_StatusPredicate const& predicate, mdl_PropagationStatusEnm status);
   int Find(cow_String const& step) const;
   Object const& Self() const { return static_cast<Object const&>(*this); }
 
@@ -127,7 +129,6 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
   Quads states;
 
  private:
-  static bool Answer(kprC_StatusPredicate const& predicate, mdl_PropagationStatusEnm status);
   /// Whether there is anything to do.
   bool AssertChecks(std::span<kprC_StepCheck const> checks, Quad const* source, Quad const* destination) const;
   bool Holds(kprC_StepCheck const& check, Quad const* source, Quad const* destination) const;
