@@ -3,6 +3,7 @@
 #include <array>
 
 #include "kbcC_BC.h"
+#include "kprC_Components.h"
 
 // What the conditions share that prescribe components: six (three translations, three rotations), three of a vector, or
 // the one magnitude of a field. A state lists its components in `Components()`, translations before rotations; one that
@@ -109,83 +110,20 @@ void kbcC_AssertZeroInitially(kbcC_BC::Quads const& quads) {
   }                                                                                \
   static constexpr std::array<char const*, 6> ComponentKeys() { return {#c1, #c2, #c3, #r1, #r2, #r3}; }
 
-/// Gives the values of a step as the condition's own class of states.
+// Access to the values of a step.
 template <class Base, class S>
-class kbcC_StateAccess : public Base {
- public:
-  S const& ConstGetState(cow_String const& step) const override {
-    return kprC_CheckedCast<S>(Base::ConstGetState(step), __FILE__, __LINE__);
-  }
-};
-
-/// Access to the values of a step by component, for a condition whose states are of class S.
+using kbcC_StateAccess = kprC_StateAccess<Base, S>;
 template <class Base, class S>
-class kbcC_ComponentBC : public kbcC_StateAccess<Base, S> {
- public:
-  using ComponentState = omu_PrimEnum<mdl_PropAttributeStateEnm, 1>;
+using kbcC_ComponentBC = kprC_ComponentAccess<Base, S>;
 
-  /// Drops from all states what a step of that procedure does not know.
-  void ChangeProcedureType(unsigned int procedure) override {
-    this->Unsettle();
-    for (int i = 0; i < this->states.Length(); ++i) {
-      if (this->states.UncheckedConstGet(i).state.HasValue()) {
-        this->states.Get(i).state.Get().ChangeProcedureType(procedure);
-      }
-    }
-  }
-
- protected:
-  static constexpr bool hasComplex = requires { S::ComplexComponents(); };
-  /// What the imaginary part is where a step has none.
-  static constexpr double noImaginaryPart = -1.7976931348623157e308;
-
-  ComponentState GetState(cow_String const& step, std::size_t i) const {
-    return this->ConstGetState(step).StateOf(i, Procedure(step));
-  }
-  double GetReal(cow_String const& step, std::size_t i) const {
-    S const& state = this->ConstGetState(step);
-    if constexpr (hasComplex) {
-      if (state.UseComplex(Procedure(step))) {
-        return Complex(state, i).ConvertedReal();
-      }
-    }
-    return (state.*S::Components()[i]).ConstGet();
-  }
-  double GetImag(cow_String const& step, std::size_t i) const {
-    [[maybe_unused]] S const& state = this->ConstGetState(step);
-    if constexpr (hasComplex) {
-      if (state.UseComplex(Procedure(step))) {
-        return Complex(state, i).ConvertedImag();
-      }
-    }
-    return noImaginaryPart;
-  }
-
- private:
-  static omi_complex const& Complex(S const& state, std::size_t i)
-    requires hasComplex
-  {
-    return state.*S::ComplexComponents()[i];
-  }
-  unsigned int Procedure(cow_String const& step) const {
-    return static_cast<unsigned int>(this->ConstGetStateQuad(step).Procedure());
-  }
-};
-
-/// Declares Get<Name>State, Get<Name>Real and Get<Name>Imag for a component.
-#define KBCC_COMPONENT_GETTERS(Name, index)                                                                  \
-  auto Get##Name##State(cow_String const& stepName) const { return this->GetState(stepName, index); }        \
-  double Get##Name##Real(cow_String const& stepName) const { return this->GetReal(stepName, index); }        \
-  double Get##Name##Imag(cow_String const& stepName) const { return this->GetImag(stepName, index); }
-
-/// The same for all six, and the scripting names of the components and their states.
+/// The getters of all six components, and the scripting names of the components and their states.
 #define KBCC_SIX_COMPONENTS(c1, C1, c2, C2, c3, C3, r1, R1, r2, R2, r3, R3) \
-  KBCC_COMPONENT_GETTERS(C1, 0)                                             \
-  KBCC_COMPONENT_GETTERS(C2, 1)                                             \
-  KBCC_COMPONENT_GETTERS(C3, 2)                                             \
-  KBCC_COMPONENT_GETTERS(R1, 3)                                             \
-  KBCC_COMPONENT_GETTERS(R2, 4)                                             \
-  KBCC_COMPONENT_GETTERS(R3, 5)                                             \
+  KPRC_COMPONENT_GETTERS(C1, 0)                                             \
+  KPRC_COMPONENT_GETTERS(C2, 1)                                             \
+  KPRC_COMPONENT_GETTERS(C3, 2)                                             \
+  KPRC_COMPONENT_GETTERS(R1, 3)                                             \
+  KPRC_COMPONENT_GETTERS(R2, 4)                                             \
+  KPRC_COMPONENT_GETTERS(R3, 5)                                             \
   KPRC_CMD(c1) KPRC_CMD(c2) KPRC_CMD(c3) KPRC_CMD(r1) KPRC_CMD(r2) KPRC_CMD(r3) \
   KPRC_CMD(c1##State) KPRC_CMD(c2##State) KPRC_CMD(c3##State)               \
   KPRC_CMD(r1##State) KPRC_CMD(r2##State) KPRC_CMD(r3##State)

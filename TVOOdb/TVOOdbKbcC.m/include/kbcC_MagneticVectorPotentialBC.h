@@ -35,9 +35,9 @@ class TVO_API kbcC_MagneticVectorPotentialBC final
   void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "MagneticVectorPotentialBC")
-  KBCC_COMPONENT_GETTERS(Component1, 0)
-  KBCC_COMPONENT_GETTERS(Component2, 1)
-  KBCC_COMPONENT_GETTERS(Component3, 2)
+  KPRC_COMPONENT_GETTERS(Component1, 0)
+  KPRC_COMPONENT_GETTERS(Component2, 1)
+  KPRC_COMPONENT_GETTERS(Component3, 2)
   KPRC_CMD(component1) KPRC_CMD(component2) KPRC_CMD(component3)
   KPRC_CMD(component1State) KPRC_CMD(component2State) KPRC_CMD(component3State)
   KPRC_CMD(fixed)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <bit>
+#include <span>
 
 #include "cls_Codec.h"
 
@@ -154,6 +156,11 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
     if (stored == nullptr) {
       return;
     }
+    cls_ReadSession::Shared* const shared = SharedElement(reader, *stored);
+    if (shared != nullptr && TakeKnown(reader, *stored, *shared, list)) {
+      Base::RestoreUid(list, *stored);
+      return;
+    }
     cow_List<T> read(static_cast<int>(stored->count));
     for (std::uint32_t i = 0; i < stored->count; ++i) {
       auto const& words = reader.Session().Database().words;
@@ -166,6 +173,9 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
       } else {
         read.Append(cls_Codec<T>::ReadHolder(inner));
       }
+    }
+    if (shared != nullptr) {
+      shared->holders.emplace_back(&knownListKey, std::make_shared<KnownList>(KnownList{stored, read}));
     }
     static_cast<cow_List<T>&>(list) = std::move(read);
     Base::RestoreUid(list, *stored);
@@ -252,6 +262,40 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
     } else {
       return element.ConstGet();
     }
+  }
+
+  // Lists that shared their elements when they were written share them again, as the repositories of a model share its
+  // steps: those whose first element stands in several places and whose other elements are the same, too.
+  struct KnownList {
+    cls_Collection const* stored;
+    cow_List<T> list;
+  };
+  static constexpr char knownListKey = 0;
+
+  static cls_ReadSession::Shared* SharedElement(cls_ReadVisitor const& reader, cls_Collection const& stored) {
+    if (!byValue || stored.count == 0) {
+      return nullptr;
+    }
+    auto const& words = reader.Session().Database().words;
+    cls_ReadVisitor const first =
+        reader.EnterRow(words[stored.first], words[stored.first + 1], cls_Codec<T>::DeclaredTypeId());
+    return reader.Session().FindShared(first.Table(), first.Row());
+  }
+  static bool TakeKnown(cls_ReadVisitor const& reader, cls_Collection const& stored,
+                        cls_ReadSession::Shared const& shared, List& list) {
+    auto const elements = [&words = reader.Session().Database().words](cls_Collection const& of) {
+      return std::span(words).subspan(of.first, std::size_t{2} * of.count);
+    };
+    for (auto const& [key, holder] : shared.holders) {
+      if (key == &knownListKey) {
+        auto const& known = *static_cast<KnownList const*>(holder.get());
+        if (std::ranges::equal(elements(*known.stored), elements(stored))) {
+          static_cast<cow_List<T>&>(list) = known.list;
+          return true;
+        }
+      }
+    }
+    return false;
   }
 };
 
