@@ -41,6 +41,19 @@ inline std::string WordsOf(int code) {
   return Refusal([code] { kprC_Assert(false, kprC_ErrorEnm(code)); });
 }
 
+/// The text with one of its entries replaced, if it is a list of several, since those may be of a fixed length; else the
+/// value alone.
+inline std::string WithEntry(std::string const& text, std::string const& value, std::size_t seed) {
+  std::vector<std::string> entries;
+  std::istringstream words(text);
+  for (std::string word; std::getline(words, word, ',');) entries.push_back(word);
+  if (entries.size() < 2 || value.find(',') != std::string::npos) return value;
+  entries[seed % entries.size()] = value;
+  std::string joined;
+  for (std::string const& entry : entries) joined += (joined.empty() ? "" : ",") + entry;
+  return joined;
+}
+
 /// Each row is refused in the words of its number; the rows raise all listed numbers but those that an earlier test
 /// hides; and no mix of edits raises another one.
 template <class T>
@@ -78,7 +91,7 @@ void ExpectValidity(std::function<void(T&)> makeValid, std::set<int> const& list
       cls_Attribute const& attribute = *all[random() % all.size()];
       std::string const& value = values[random() % values.size()];
       try {
-        attribute.SetText(object, value);
+        attribute.SetText(object, WithEntry(attribute.Text(object), value, random()));
       } catch (std::exception const&) {  // no name of this enumeration
       }
     }

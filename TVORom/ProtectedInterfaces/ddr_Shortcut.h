@@ -16,6 +16,7 @@ class TVO_API ddr_ShortcutImpl : public ddr_ShortcutBaseImpl {
   static cls_AttributeTable const& Attributes();
   static void InitializeMetadata(cls_ClassRegistrar& registrar) { cls_Register<ddr_ShortcutImpl>(registrar); }
   ddr_ShortcutImpl* Copy() const override = 0;
+  static void CowDtor(cls_UntypedHolder* holder) { cls_DropHolder<ddr_ShortcutImpl>(holder); }
 
   /// The object in that model, made exclusive for writing or for reading. A path that leads nowhere is refused:
   /// nex_CmdException<cow_String, 1>.
@@ -55,10 +56,7 @@ class TVO_API ddr_Shortcut final : public cls_Persistent {
     return impl_.ConstGet();
   }
 
-  /// Drops a counted reference to a shortcut whose static type is lost; it was a holder with the policy cow_Virtual.
-  static void CowDtor(cow_COW<int, cow_Direct<int>>* reference) {
-    reinterpret_cast<cow_COW<ddr_Shortcut, cow_Virtual<ddr_Shortcut>>*>(reference)->DropReference();
-  }
+  static void CowDtor(cls_UntypedHolder* holder) { Dtor(holder); }
 
  private:
   cow_COW<ddr_ShortcutImpl<T>, cow_Virtual<ddr_ShortcutImpl<T>>> impl_;

@@ -48,16 +48,4 @@ TEST(ProcedureTablesTest, QuestionsAgreeWithTheAnswersOfTheClasses) {
   }
 }
 
-TEST(ProcedureTablesTest, ControlsHaveTheGroupsOfTheFieldsTheySolve) {
-  constexpr auto coupled = kprC_TypeId("kprC_ETSControls");
-  EXPECT_TRUE(kprC_HasDisplacementControls(coupled) && kprC_HasTemperatureControls(coupled) &&
-              kprC_HasElectricalControls(coupled));
-  EXPECT_FALSE(kprC_HasPoreControls(coupled) || kprC_HasConcentrationControls(coupled));
-  constexpr auto cyclic = kprC_TypeId("kprC_DirectCyclicControls");
-  EXPECT_TRUE(kprC_HasRotationControls(cyclic));
-  EXPECT_FALSE(kprC_HasHydrostaticControls(cyclic));
-  EXPECT_TRUE(kprC_HasConcentrationControls(kprC_TypeId("kprC_MassDiffusionControls")));
-  EXPECT_FALSE(kprC_HasDisplacementControls(kprC_TypeId("kprC_PrimaryControls")));
-}
-
 }  // namespace

@@ -45,7 +45,7 @@ class TVO_API kprC_AnalysisStep : public kprC_Step {
   cow_COW<kprC_Restart, cow_Virtual<kprC_Restart>> restart;  ///< empty unless asked for, as the next two
   cow_COW<kprC_Monitor, cow_Virtual<kprC_Monitor>> monitor;
   cow_COW<kprC_DiagnosticPrint, cow_Virtual<kprC_DiagnosticPrint>> diagnosticPrint;
-  cls_xoList<kprC_ContactControls> contactControls;
+  cls_xoList<cow_COW<kprC_ContactControls, cow_Virtual<kprC_ContactControls>>> contactControls;  ///< none null
   mdl_MapString2ObjCow<kadC_AdptMeshDomain> amd;  ///< adaptive mesh domains by step name
   mdl_MapString2ObjCow<klcC_LoadCase> lcc;        ///< load cases by name
   cow_COW<kprC_Controls, cow_Virtual<kprC_Controls>> controls;        ///< empty: the solver's own

@@ -13,6 +13,8 @@ class TVO_API kprC_PropagatingContainer final : public kprC_StepRepository {
   using Holder = cow_COW<T, cow_Virtual<T>>;
 
   kprC_PropagatingContainer() { UpdateTimeStamp(cow_String()); }
+  /// As read from the row alone; the flag is of use to other kinds of repository.
+  kprC_PropagatingContainer(cls_ReadVisitor const& reader, bool) : kprC_PropagatingContainer(reader) {}
 
   char const* RepositoryName() const override;
   cow_List<kprC_OfferedMenu> OfferedTypes(int procedure) const override;
@@ -20,7 +22,7 @@ class TVO_API kprC_PropagatingContainer final : public kprC_StepRepository {
   bool IsMember(cow_String const& key) const override { return map.IsMember(key); }
   int UnsuppressedSize() const override;
   cow_List<cow_String> Keys() const override;
-  kprC_StepList const& Procedures() const noexcept { return procedures; }
+  kprC_StepList const& Procedures() const noexcept override { return procedures; }
 
   T const& ConstGet(cow_String const& key) const;
   /// Notes ("Modify", key) and gives the object for writing.

@@ -3,6 +3,8 @@
 #include "cls_Persistent.h"
 #include "kprC_Types.h"
 
+class kprC_Step;
+
 /// What a step writes so that a later analysis can go on from it.
 class TVO_API kprC_Restart : public cls_Persistent {
   CLS_PERSISTENT(kprC, kprC_Restart)
@@ -10,6 +12,13 @@ class TVO_API kprC_Restart : public cls_Persistent {
  public:
   kprC_Restart() = default;
   virtual void AssertValid() const {}
+  /// Refuses a request that a step cannot meet: any in the initial step with number 158, what needs increments that
+  /// can be cut with 174 to 176.
+  void AssertAllowedIn(kprC_Step const& step) const;
+  /// States at even times; 0 if they are written otherwise.
+  virtual int NumberIntervals() const { return 0; }
+  /// Whether the increments are cut so that they meet these times.
+  virtual bool TimeMarks() const { return false; }
 
   bool overlay = false;  ///< only the last written state is kept
 };

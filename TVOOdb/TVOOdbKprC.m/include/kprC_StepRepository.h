@@ -44,6 +44,8 @@ class TVO_API kprC_StepRepository : public mdl_Repository {
   /// What can be created in a step of that procedure (0: the initial step), menu by menu.
   virtual cow_List<kprC_OfferedMenu> OfferedTypes(int procedure) const = 0;
 
+  /// The repository's copy of the model's steps.
+  virtual kprC_StepList const& Procedures() const noexcept = 0;
   /// Keys in ascending order.
   virtual cow_List<cow_String> Keys() const = 0;
   virtual bool IsMember(cow_String const& key) const = 0;

@@ -7,7 +7,7 @@
 // Persistent containers: a cow container that carries an identity of its own. Copying shares the content and keeps the
 // identity; equality is by content.
 
-/// A list of objects held by value.
+/// A list of objects held by value, or of holders of objects of a class and those derived from it; no holder is null.
 template <class T, class Tag>
 class cls_ObjectList : public cow_List<T> {
  public:
@@ -140,9 +140,10 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
     std::uint32_t at = Base::Take(writer, list, static_cast<std::size_t>(list.Length()));
     writer.SetWord(column, Base::LastNumber(writer));
     for (T const& element : list) {
-      std::uint32_t const row = writer.WriteElement(element, true);
+      cls_Persistent const& object = ObjectOf(element);
+      std::uint32_t const row = writer.WriteElement(object, true);
       cls_Database& database = writer.Session().Database();
-      database.words[at] = element.DynTypeId();
+      database.words[at] = object.DynTypeId();
       database.words[at + 1] = row;
       at += 2;
     }
@@ -157,10 +158,14 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
     for (std::uint32_t i = 0; i < stored->count; ++i) {
       auto const& words = reader.Session().Database().words;
       std::size_t const at = stored->first + 2 * static_cast<std::size_t>(i);
-      cls_ReadVisitor const inner = reader.EnterRow(words[at], words[at + 1], T::TypeId());
-      T element;
-      cls_Codec<T>::ReadInto(inner, element);
-      read.Append(std::move(element));
+      cls_ReadVisitor inner = reader.EnterRow(words[at], words[at + 1], cls_Codec<T>::DeclaredTypeId());
+      if constexpr (byValue) {
+        T element;
+        cls_Codec<T>::ReadInto(inner, element);
+        read.Append(std::move(element));
+      } else {
+        read.Append(cls_Codec<T>::ReadHolder(inner));
+      }
     }
     static_cast<cow_List<T>&>(list) = std::move(read);
     Base::RestoreUid(list, *stored);
@@ -181,7 +186,7 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
   static void NewUid(List& list) {
     list.NewUid();
     for (int i = 0; i < list.Length(); ++i) {
-      list.Get(i).NewUid();
+      cls_Codec<T>::NewUid(list.Get(i));
     }
   }
   static void Unshare(List& list, cls_DeepCopyContext& context) {
@@ -213,6 +218,16 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
     }
   }
   static constexpr char const* expected = cls_Named<T> ? "names with commas between them" : "no text: objects stand here";
+
+ private:
+  static constexpr bool byValue = std::derived_from<T, cls_Persistent>;
+  static cls_Persistent const& ObjectOf(T const& element) {
+    if constexpr (byValue) {
+      return element;
+    } else {
+      return element.ConstGet();
+    }
+  }
 };
 
 /// Cells of the heap for one plain value.

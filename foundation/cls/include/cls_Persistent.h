@@ -2,6 +2,7 @@
 
 #include "TVOExport.h"
 #include "cls_Uid.h"
+#include "cow_COW.h"
 #include "mem_Allocation.h"
 
 class cls_AttributeTable;
@@ -39,6 +40,15 @@ class TVO_API cls_Persistent : public mem_AllocationOperators {
 /// Equality of two objects by their class and the values of their attributes; identities take no part.
 TVO_API bool cls_EqualValues(cls_Persistent const& a, cls_Persistent const& b);
 
+/// A holder whose static type is lost. It may stand for a holder of any class that the registry knows, and for that alone.
+using cls_UntypedHolder = cow_COW<int, cow_Direct<int>>;
+
+/// Drops what the holder of a T holds; the last one that shares the object deletes it. The holder is null afterwards.
+template <class T>
+void cls_DropHolder(cls_UntypedHolder* holder) noexcept {
+  reinterpret_cast<cow_CountedHld<T>*>(holder)->DropReference();
+}
+
 /// What a concrete class and an abstract one have in common. `Module` is the prefix of the list that numbers the class.
 #define CLS_COMMON(Module, Class)                                                              \
  public:                                                                                       \
@@ -57,13 +67,15 @@ TVO_API bool cls_EqualValues(cls_Persistent const& a, cls_Persistent const& b);
   static Class* Ctor(cls_ReadVisitor& reader) { return new Class(reader); }                    \
   unsigned int DynTypeId() const override { return TypeId(); }                                 \
   cls_AttributeTable const& DynAttributes() const override { return Attributes(); }            \
-  Class* Copy() const override { return new Class(*this); }
+  Class* Copy() const override { return new Class(*this); }                                    \
+  static void Dtor(cls_UntypedHolder* holder) { cls_DropHolder<Class>(holder); }
 
 /// In the body of an abstract persistent class.
 #define CLS_ABSTRACT(Module, Class)                                                            \
   CLS_COMMON(Module, Class)                                                                    \
  public:                                                                                       \
-  Class* Copy() const override = 0;
+  Class* Copy() const override = 0;                                                            \
+  static void CowDtor(cls_UntypedHolder* holder) { cls_DropHolder<Class>(holder); }
 
 class cls_ClassRegistrar;
 

@@ -25,17 +25,23 @@ class TVO_API cls_ClassMetadata {
   /// Declares an attribute; to be chained.
   cls_ClassMetadata& AddAttribute(cls_FieldHandle const& field, cls_AttributeType type, unsigned int typeId,
                                   cls_CollectionType collection);
-  /// What drops a counted reference whose static type is lost.
-  cls_ClassMetadata& AddDtor(void (*dtor)(cls_Persistent*));
+  /// Declares what the class itself adds in its table.
+  cls_ClassMetadata& AddAttributes(cls_AttributeTable const& table);
+  /// What drops a holder of the class whose static type is lost; to be chained.
+  cls_ClassMetadata& AddDtor(void (*dtor)(cls_UntypedHolder*));
 
   /// The live class's table, null for a class that is only declared.
   virtual cls_AttributeTable const* Attributes() const { return nullptr; }
+  // In what follows `object` is of this class or of one derived from it.
+  virtual void DBWrite(void const* object, cls_WriteVisitor const& writer) const;
+  /// Destroys the object and frees its memory.
+  virtual void Delete(void* object) const;
+  /// Drops what the holder of an object holds and leaves it null; nothing happens without AddDtor.
+  void DeleteCow(cls_UntypedHolder* holder) const;
   /// A new object read from a row, or null for a class that cannot be built. The caller owns it.
   virtual cls_Persistent* Ctor(cls_ReadVisitor const& reader) const;
   /// A new object with default values, or null for an abstract class. The caller owns it.
   virtual cls_Persistent* New() const { return nullptr; }
-  void DBWrite(cls_Persistent const& object, cls_WriteVisitor const& writer) const { object.DBWrite(writer); }
-  void Delete(cls_Persistent* object) const;
 
  private:
   cow_String name_;
@@ -44,29 +50,29 @@ class TVO_API cls_ClassMetadata {
   void* (*ctor_)(cls_ReadVisitor&);
   unsigned int kind_;
   unsigned int parentTypeId_;
-  void (*dtor_)(cls_Persistent*) = nullptr;
+  void (*dtor_)(cls_UntypedHolder*) = nullptr;
   std::vector<cls_DeclaredAttribute> declared_;
 };
 
-/// Metadata of a class that cannot be built by itself.
-class TVO_API cls_AbsTypeAdapterBase : public cls_ClassMetadata {
- public:
-  explicit cls_AbsTypeAdapterBase(cls_AttributeTable const& attributes);
-  cls_AttributeTable const* Attributes() const override { return &attributes_; }
-
- private:
-  cls_AttributeTable const& attributes_;
-};
-
+/// Metadata of an abstract class, which cannot be built by itself.
 template <class T>
-class cls_AbsTypeAdapter : public cls_AbsTypeAdapterBase {
+class cls_AbsTypeAdapter : public cls_ClassMetadata {
  public:
-  cls_AbsTypeAdapter() : cls_AbsTypeAdapterBase(T::Attributes()) {}
+  cls_AbsTypeAdapter(cow_String const& name, int version, unsigned int parentTypeId)
+      : cls_ClassMetadata(name, T::TypeId(), version, nullptr, 1, parentTypeId) {}
+
+  cls_AttributeTable const* Attributes() const override { return &T::Attributes(); }
+  void DBWrite(void const* object, cls_WriteVisitor const& writer) const override {
+    static_cast<T const*>(object)->DBWrite(writer);
+  }
+  void Delete(void* object) const override { delete static_cast<T*>(object); }
 };
 
 template <class T>
 class cls_TypeAdapter final : public cls_AbsTypeAdapter<T> {
  public:
+  using cls_AbsTypeAdapter<T>::cls_AbsTypeAdapter;
+
   cls_Persistent* Ctor(cls_ReadVisitor const& reader) const override { return new T(reader); }
   cls_Persistent* New() const override { return new T(); }
 };
@@ -124,10 +130,14 @@ class TVO_API cls_MetadataRegistrar : public omi_Singleton<cls_MetadataRegistrar
 
 template <class T>
 void cls_Register(cls_ClassRegistrar& registrar) {
+  cls_AttributeTable const& table = T::Attributes();
+  unsigned int const parent = table.Base() == nullptr ? 0 : table.Base()->TypeId();
   if constexpr (std::is_abstract_v<T>) {
-    registrar.AddClassMD(new cls_AbsTypeAdapter<T>());
+    auto* const adapter = new cls_AbsTypeAdapter<T>(table.Name(), table.Version(), parent);
+    registrar.AddClassMD(adapter).AddDtor(&T::CowDtor).AddAttributes(table);
   } else {
-    registrar.AddClassMD(new cls_TypeAdapter<T>());
+    auto* const adapter = new cls_TypeAdapter<T>(table.Name(), table.Version(), parent);
+    registrar.AddClassMD(adapter).AddDtor(&T::Dtor).AddAttributes(table);
   }
 }
 

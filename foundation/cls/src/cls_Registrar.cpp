@@ -19,33 +19,33 @@ cls_ClassMetadata& cls_ClassMetadata::AddAttribute(cls_FieldHandle const& field,
   return *this;
 }
 
-cls_ClassMetadata& cls_ClassMetadata::AddDtor(void (*dtor)(cls_Persistent*)) {
+cls_ClassMetadata& cls_ClassMetadata::AddAttributes(cls_AttributeTable const& table) {
+  for (auto const& attribute : table.Own()) {
+    declared_.push_back(attribute->declared);
+  }
+  return *this;
+}
+
+cls_ClassMetadata& cls_ClassMetadata::AddDtor(void (*dtor)(cls_UntypedHolder*)) {
   dtor_ = dtor;
   return *this;
+}
+
+void cls_ClassMetadata::DBWrite(void const* object, cls_WriteVisitor const& writer) const {
+  static_cast<cls_Persistent const*>(object)->DBWrite(writer);
+}
+
+void cls_ClassMetadata::Delete(void* object) const { delete static_cast<cls_Persistent*>(object); }
+
+void cls_ClassMetadata::DeleteCow(cls_UntypedHolder* holder) const {
+  if (dtor_ != nullptr) {
+    dtor_(holder);
+  }
 }
 
 cls_Persistent* cls_ClassMetadata::Ctor(cls_ReadVisitor const& reader) const {
   cls_ReadVisitor copy = reader;
   return ctor_ == nullptr ? nullptr : static_cast<cls_Persistent*>(ctor_(copy));
-}
-
-void cls_ClassMetadata::Delete(cls_Persistent* object) const {
-  if (dtor_ != nullptr) {
-    dtor_(object);
-  } else {
-    delete object;
-  }
-}
-
-cls_AbsTypeAdapterBase::cls_AbsTypeAdapterBase(cls_AttributeTable const& attributes)
-    : cls_ClassMetadata(attributes.Name(), attributes.TypeId(), attributes.Version(), nullptr, 1,
-                        attributes.Base() == nullptr ? 0 : attributes.Base()->TypeId()),
-      attributes_(attributes) {
-  AddDtor([](cls_Persistent* object) { delete object; });
-  for (auto const& attribute : attributes.Own()) {
-    cls_DeclaredAttribute const& declared = attribute->declared;
-    AddAttribute(declared.field, declared.type, declared.typeId, declared.collection);
-  }
 }
 
 cls_ClassRegistrar::cls_ClassRegistrar() = default;

@@ -166,3 +166,30 @@ TEST_F(PersistenceTest, WritesAndReadsByKeyThroughVisitors) {
   EXPECT_EQ(other.GetUid(), mark.Uid());
   EXPECT_FALSE(cls_ReadVisitor(reader, cls_FieldHandle{9, "none"}).HasRow());
 }
+
+// Who has lost the type of an object still writes it, gives up a share of it, and deletes it, by its metadata.
+TEST_F(PersistenceTest, MetadataServeObjectsWhoseTypeIsLost) {
+  cls_ClassMetadata const& shape = cls_ClassRegistrar::Present().Get(smp_Shape::TypeId());
+  cls_ClassMetadata const& box = cls_ClassRegistrar::Present().Get(smp_Box::TypeId());
+  smp_ShapeHolder first(box_);
+  smp_ShapeHolder second = first;
+  ASSERT_EQ(second.Count(), 2);
+  shape.DeleteCow(reinterpret_cast<cls_UntypedHolder*>(&first));
+  EXPECT_TRUE(first.IsNull());
+  EXPECT_TRUE(second.Exclusive());
+  EXPECT_TRUE(cls_EqualValues(second.ConstGet(), box_));
+
+  cls_Database database;
+  cls_WriteSession session(database);
+  box.DBWrite(static_cast<void const*>(&box_), cls_WriteVisitor(session));
+  database.Complete();
+  cls_ReadSession reading(database);
+  cls_ReadVisitor const reader(reading);
+  EXPECT_EQ(shape.Ctor(reader), nullptr);  // an abstract class
+  cls_Persistent* const read = box.Ctor(reader);
+  ASSERT_NE(read, nullptr);
+  EXPECT_TRUE(cls_EqualValues(*read, box_));
+  box.Delete(read);
+  shape.DeleteCow(reinterpret_cast<cls_UntypedHolder*>(&second));  // the last share: nothing may leak
+  EXPECT_TRUE(second.IsNull());
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "kprC_PrimaryControls.h"
+
+/// Controls of heat transfer.
+class TVO_API kprC_HeatTransferControls : public kprC_PrimaryControls {
+  CLS_PERSISTENT(kprC, kprC_HeatTransferControls)
+
+ public:
+  kprC_HeatTransferControls() = default;
+
+  cls_xp1DArrayListDouble temperatureField = DefaultField();
+
+ protected:
+  std::vector<FieldGroup> FieldGroups() const override;
+};

@@ -1,0 +1,38 @@
+// Arbitrary edit scripts on a model. After each command every invariant is checked.
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "RandomEdits.h"
+#include "TVOOdbAttrEO.h"
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+  static int depth = 0;
+  TVOOdbAttrEO_initialize(depth);
+  return 0;
+}
+
+namespace {
+
+long commands = 0;
+
+struct Tally {
+  ~Tally() { std::fprintf(stderr, "%ld edit commands\n", commands); }
+} const tally;
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+  std::size_t next = 0;
+  RandomEdits edits([&](unsigned bound) { return next < size ? data[next++] % bound : 0u; });
+  LivingModel model;
+  while (next < size) {
+    std::string const broken = model.Run(edits.Next(model.Model()));
+    ++commands;
+    if (!broken.empty()) {
+      std::fputs(broken.c_str(), stderr);
+      std::abort();
+    }
+  }
+  return 0;
+}

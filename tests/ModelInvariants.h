@@ -1,0 +1,158 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "EditedModel.h"
+#include "cls_Registrar.h"
+#include "cls_Table.h"
+#include "cls_Visitors.h"
+#include "dbc_ModelFile.h"
+#include "kprC_StepContainer.h"
+#include "kprC_StepRepository.h"
+#include "mdl_PropagationEnums.h"
+
+// What holds for a model after any sequence of edits.
+
+/// Gathers what is broken, with where.
+class ModelInvariants {
+ public:
+  explicit ModelInvariants(EditedModel const& model) : model_(model), steps_(model.Steps().StepList()) {
+    for (kprC_StepRepository const* repository : model.Repositories()) {
+      StepListsAgree(*repository);
+      for (cow_String const& key : repository->Keys()) {
+        kprC_StepObject const& object = repository->ConstGetObject(key);
+        StatusesFollowTheCreation(key, object);
+        ASecondWalkChangesNothing(key, object);
+      }
+      SuppressedStepsLeaveNoTrace(*repository);
+    }
+    IdentitiesAreUnique();
+    ReadsBackEqual();
+  }
+
+  std::string const& Broken() const { return broken_; }
+
+  /// The model as bytes: what an edit of another copy must not change.
+  static std::vector<std::uint8_t> Bytes(EditedModel const& model) { return dbc_EncodeObject(model.Model()); }
+
+ private:
+  void Expect(bool holds, char const* what, cow_String const& where) {
+    if (!holds) broken_.append(what).append(": ").append(where.View()).append("\n");
+  }
+
+  void StepListsAgree(kprC_StepRepository const& repository) {
+    kprC_StepList const& own = repository.Procedures();
+    // An edit that keeps a step's type and name does not reach the list of a repository.
+    auto const alike = [](kprC_StepHolder const& a, kprC_StepHolder const& b) {
+      if (a.IsNull() || b.IsNull()) return a.IsNull() == b.IsNull();
+      return a.ConstGet().DynTypeId() == b.ConstGet().DynTypeId() && a.ConstGet().suppress == b.ConstGet().suppress;
+    };
+    bool agree = own.Length() == steps_.Length();
+    for (int i = 0; agree && i < own.Length(); ++i) {
+      agree = own[i].stepName == steps_[i].stepName && alike(own[i].procedure, steps_[i].procedure);
+    }
+    Expect(agree, "steps differ from the model's", repository.RepositoryName());
+  }
+
+  void StatusesFollowTheCreation(cow_String const& key, kprC_StepObject const& object) {
+    auto const names = object.StepNames();
+    auto const statuses = object.History();
+    bool agree = names.Length() == steps_.Length();
+    for (int i = 0; agree && i < names.Length(); ++i) agree = names[i] == steps_[i].stepName;
+    Expect(agree, "an object stands over other steps", key);
+    if (!agree) return;
+    int const creation = names.FindMember(object.CreateStepName());
+    for (int i = 0; i < names.Length(); ++i) {
+      bool const holds = object.StateIn(names[i]) != nullptr;
+      bool const created = statuses[i] == STATUS_CREATED;
+      Expect(i >= creation || !holds, "a state before the creation", key);
+      Expect(created == (i == creation) || statuses[i] == STATUS_TYPE_INVALID, "a creation in the wrong step", key);
+      Expect(holds || (statuses[i] != STATUS_PROPAGATED && statuses[i] != STATUS_MODIFIED), "an active step without a state", key);
+    }
+  }
+
+  /// Objects with complex values or a buckle case are modified by their first walk and seen so by the second.
+  static bool IsSettledByOneWalk(kprC_StepObject const& object) {
+    for (cow_String const& step : object.StepNames()) {
+      kprC_StepState const* const state = object.StateIn(step);
+      if (state == nullptr) continue;
+      for (cls_Attribute const* attribute : state->DynAttributes().All()) {
+        std::string_view const name = attribute->declared.field.name.View();
+        bool const complexPart = attribute->declared.type == cls_AttributeType::Double && attribute->Text(*state) != "0";
+        if (name == "buckleCase" || complexPart) return false;
+      }
+    }
+    return true;
+  }
+
+  void ASecondWalkChangesNothing(cow_String const& key, kprC_StepObject const& object) {
+    if (!IsSettledByOneWalk(object)) return;
+    std::unique_ptr<kprC_StepObject> const again(object.Copy());
+    again->ForcedInitialize(steps_);
+    for (auto const& step : steps_) SameIn(step.stepName, *again, object, "a second walk changes", key);
+  }
+
+  void SameIn(cow_String const& step, kprC_StepObject const& a, kprC_StepObject const& b, std::string const& what,
+              cow_String const& key) {
+    std::string const statuses = std::to_string(b.Status(step)) + " to " + std::to_string(a.Status(step));
+    Expect(a.Status(step) == b.Status(step), (what + " a status in " + step.CStr() + ", " + statuses).c_str(), key);
+    kprC_StepState const* const first = a.StateIn(step);
+    kprC_StepState const* const second = b.StateIn(step);
+    bool const same = first == nullptr || second == nullptr ? first == second : cls_EqualValues(*first, *second);
+    Expect(same, (what + " a value").c_str(), key);
+  }
+
+  void SuppressedStepsLeaveNoTrace(kprC_StepRepository const& repository) {
+    std::unique_ptr<kprC_StepRepository> const without(repository.Copy());
+    kprC_StepList left = steps_;
+    for (int i = left.Length() - 1; i >= 0; --i) {
+      if (left[i].procedure.IsNull() || !left[i].procedure.ConstGet().suppress) continue;
+      left.RemoveIndex(i);
+      without->UpdateSteps(left, {}, false);
+    }
+    if (left.Length() == steps_.Length()) return;
+    for (cow_String const& key : repository.Keys()) {
+      kprC_StepObject const& object = repository.ConstGetObject(key);
+      if (!IsSettledByOneWalk(object) || !without->IsMember(key)) continue;
+      kprC_StepObject const& other = without->ConstGetObject(key);
+      if (other.suppressionState != object.suppressionState) continue;
+      for (auto const& step : left) SameIn(step.stepName, other, object, "a suppressed step shows in", key);
+    }
+  }
+
+  /// Objects, their states and quads. A step that was edited may stand in a repository's list as it was before.
+  static bool IsOfObjects(unsigned int typeId) {
+    for (auto const& [id, metadata] : cls_ClassRegistrar::Present().All()) {
+      cls_AttributeTable const* const table = metadata->Attributes();
+      cls_AttributeTable const* const state = table == nullptr ? nullptr : table->StepState();
+      if (state != nullptr && (id == typeId || state->TypeId() == typeId)) return true;
+    }
+    cls_ClassMetadata const* const metadata = cls_ClassRegistrar::Present().Find(typeId);
+    return metadata != nullptr && metadata->Name().View().starts_with("kprC_PropagatingState");
+  }
+
+  void IdentitiesAreUnique() {
+    cls_Database database;
+    cls_WriteSession session(database);
+    model_.Model().DBWrite(cls_WriteVisitor(session));
+    database.Complete();
+    for (auto const& table : database.tables) {
+      if (!IsOfObjects(table->typeId)) continue;
+      std::set<std::uint64_t> seen;
+      for (std::uint64_t const uid : table->uids) {
+        if (uid != 0 && !seen.insert(uid).second) Expect(false, "an identity twice", table->name);
+      }
+    }
+  }
+
+  void ReadsBackEqual() {
+    auto const read = dbc_DecodeObject(Bytes(model_), "model");
+    Expect(cls_EqualValues(*read, model_.Model()), "another model after saving and opening", "");
+  }
+
+  EditedModel const& model_;
+  kprC_StepList const steps_;
+  std::string broken_;
+};
