@@ -270,6 +270,9 @@ void dbc_DatabaseConverter::Apply(dbc_ClassConverter const& link, int version) {
     return;
   }
   cls_ClassMetadata const* const shape = ShapeAt(link.TypeId(), version);
+  if (shape == nullptr) {
+    return;
+  }
   bool const functions = link.ConversionFunction() != nullptr || link.FinalizeFunction() != nullptr;
   auto const stored = input_.tables_.find(link.TypeId());
   bool const isInput = stored != input_.tables_.end() && stored->second == found;
