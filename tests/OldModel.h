@@ -253,6 +253,7 @@ class OldModel {
   };
   std::vector<OldNumbers> const numbers_ = {
       {"kbcC_BC", {203, 871, 1327}},
+      {"kbcC_ConnectorBC", {203, 860, 1631}},
       {"kprC_AnalysisStep", {302, 328, 831, 867, 1389, 2001, 2511, 2608}},
       {"kprC_FrequencyStep", {831, 858, 881, 1033, 1044, 1346}},
       {"kprC_PropagatingContainer<kbcC_BC>", {203, 510}},

@@ -70,15 +70,16 @@ ddr_Model SampleModel() {
   conditions.UpdateSteps(steps.StepList(), cow_String(), false);
   for (int i = 0; i < 4; ++i) {
     kbcC_DisplacementBCState state;
-    if (i != 1) state.u1 = 0.5 + i;
+    state.u1 = i == 1 || i == 2 ? 0.0 : 0.5 + i;
     kbcC_DisplacementBC condition;
     condition.region = rgnC_Region(cow_String("Set-" + std::to_string(i)));
     condition.fixed = i == 1;
     condition.Insert(i == 2 ? "Initial" : "Pull", state);
-    if (i == 3) condition.Deactivate("Back");
     conditions.Insert(cow_String("BC-" + std::to_string(i)), condition);
   }
+  conditions.Get("BC-3").Deactivate("Back");
   kbcC_ConnDisplacementBC hinge;
+  hinge.region = rgnC_Region("Wire");
   kbcC_ConnDisplacementBCState turn;
   turn.ur1 = 0.25;
   hinge.Insert("Pull", turn);
@@ -235,14 +236,13 @@ TEST_F(OlderRevisionsTest, ADamagedFileIsRefusedOrSound) {
       for (std::size_t at = 0; at < contents[section].bytes.size(); ++at) {
         std::uint8_t& byte = contents[section].bytes[at];
         std::uint8_t const whole = byte;
-        for (int const value : {0x00, 0xff, whole ^ 0x01}) {
-          byte = static_cast<std::uint8_t>(value);
-          try {
-            auto const opened = dbc_DecodeObject(dbc_AssembleFile(revision, contents), "old.db");
-            dbc_EncodeObject(*opened);
-          } catch (TVOBasException const&) {
-            // Any refusal will do; what is opened must be sound.
-          }
+        int const values[] = {0x00, 0xff, whole ^ 0x01};
+        byte = static_cast<std::uint8_t>(values[at % 3]);
+        try {
+          auto const opened = dbc_DecodeObject(dbc_AssembleFile(revision, contents), "old.db");
+          dbc_EncodeObject(*opened);
+        } catch (TVOBasException const&) {
+          // Any refusal will do; what is opened must be sound.
         }
         byte = whole;
       }
