@@ -1,9 +1,10 @@
 // What does opening a model of the first revision cost, beside opening the same model as it is saved today? 1,000 steps and
-// 10,000 boundary conditions, each of which stands in every step.
+// 10,000 boundary conditions, created in the last of the steps: each has a state quad for every step all the same.
 
 #include "../tests/OldModel.h"
 #include "BenchModel.h"
 #include "dbc_ModelFile.h"
+#include "ddr_Model.h"
 
 namespace {
 
@@ -19,7 +20,15 @@ ddr_Model const& Model() {
       container.InsertAfter(container.LastStep(), cow_String("Step-" + std::to_string(i)), kprC_StaticStep(), true);
     }
     auto& conditions = dynamic_cast<BoundaryConditions&>(made.GetExtension("bcs").GetValue());
-    conditions = ModelOf(objects, container.StepList());
+    conditions.UpdateSteps(container.StepList(), cow_String(), false);
+    for (int i = 0; i < objects; ++i) {
+      kbcC_DisplacementBCState value;
+      value.u1 = 0.5 + i;
+      kbcC_DisplacementBC condition;
+      condition.region = rgnC_Region(cow_String("Set-" + std::to_string(i)));
+      condition.Insert(container.LastStep(), value);
+      conditions.Insert(cow_String("BC-" + std::to_string(i)), condition);
+    }
     return made;
   }();
   return model;
