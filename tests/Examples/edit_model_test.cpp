@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <vector>
 
 namespace {
 
@@ -327,6 +328,44 @@ TEST(EditModelTest, OpensWhatItSavedWithValuesStatusesAndIdentities) {
   // Steps and objects of an opened model know each other as before.
   EXPECT_EQ(LastRow("open " + a + "\nresume boundaryConditions v\nremove steps B\n"),
             "v|NONE|CREATED|TYPE_INVALID|BASE_BUILT_IN|PROPAGATED");
+}
+
+TEST(EditModelTest, OpensEveryGeneralProcedureAsItWasSaved) {
+  // A new step takes what it needs and is valid then; not all of them may stand in one model.
+  std::string const inc = " initialInc=0.1 minInc=1e-5 maxInc=0.5 ";
+  std::vector<std::vector<std::string>> const models{
+      {"GeostaticStep utol=1" + inc, "SoilsStep utol=1 end=1e-3" + inc, "StaticStep fullyPlastic=Web" + inc,
+       "ViscoStep cetol=1e-3 integration=EXPLICIT_ONLY" + inc, "DirectCyclicStep deltmx=1 fatigue=true" + inc,
+       "ImplicitDynamicsStep alpha=-0.05 initialCondition=OFF" + inc,
+       "StaticRiksStep initialArcInc=0.1 monitorNodeOn=true region=Tip monitorDof=2"},
+      {"CoupledTempDisplacementStep deltmx=1 creepIntegration=IMPLICIT" + inc,
+       "ElecThermalStructuralStep cetol=1e-3 creepIntegration=CREEP_OFF" + inc},
+      {"HeatTransferStep mxdem=0.2" + inc, "CoupledThermalElectricStep response=STEADY_STATE" + inc},
+      {"MassDiffusionStep end=0.1" + inc},
+      {"CoupledThermalElectrochemicalStep solutionTechnique=SEPARATED" + inc},
+      {"CoupledThermalElectrochemStructStep deltmx=1" + inc},
+      {"CoupledThermalElectrochemStructPorepressureStep deltmx=1 advection=true" + inc},
+      {"FrequencyStep numEigen=3", "SubspaceDynamicsStep incSize=0.1 vectors=3"},
+      {"ExplicitDynamicsStep timeIncrementationMethod=AUTOMATIC_EBE", "AnnealStep refTemp=20",
+       "TempDisplacementDynamicsStep timeIncrementationMethod=FIXED_EBE"},
+      {"FlowStep energyEquation=TEMPERATURE turbulenceModel=KEPS_RNG advectionFactor=GALERKIN", "FlowStep"},
+  };
+  std::string const a = scratch + "a";
+  for (auto const& model : models) {
+    std::string edits;
+    std::string listing;
+    std::string last = "Initial";
+    for (std::string const& step : model) {
+      std::size_t const space = std::min(step.find(' '), step.size());
+      std::string const name = "S" + std::to_string(&step - model.data());
+      edits += "step " + name + " " + step.substr(0, space) + " after=" + last + step.substr(space) + "\n";
+      listing += "show steps " + name + "\n";
+      last = name;
+    }
+    Result const before = RunScript(edits + "save " + a + "\n" + listing);
+    EXPECT_EQ(before.status, 0) << before.out;
+    EXPECT_EQ(RunScript("open " + a + "\n" + listing).out, before.out);
+  }
 }
 
 TEST(EditModelTest, AlignsItsTablesByDefault) {

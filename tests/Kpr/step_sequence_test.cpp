@@ -142,9 +142,7 @@ class AnyStep final : public kprC_AnalysisStep {
   explicit AnyStep(unsigned int id, NlgeomEnm geometry = NOT_AVAILABLE) : procedure(id), nlgeom(geometry) {}
   static constexpr unsigned int TypeId() { return kprC_Procedure::Flow; }
   static cls_AttributeTable const& Attributes() {
-    static auto const table = cls_Describe<AnyStep, kprC_AnalysisStep>("AnyStep", 203)
-                                  .Attribute("energyEquation", &AnyStep::energyEquation)
-                                  .Attribute("turbulenceModel", &AnyStep::turbulenceModel);
+    static cls_Describe<AnyStep, kprC_AnalysisStep> const table("AnyStep", 203);
     return table;
   }
   unsigned int DynTypeId() const override { return procedure; }
@@ -154,8 +152,6 @@ class AnyStep final : public kprC_AnalysisStep {
 
   unsigned int procedure;
   NlgeomEnm nlgeom;
-  kprC_EnergyEquationEnm energyEquation{};
-  kprC_TurbulenceModelEnm turbulenceModel{};
 };
 
 /// A model of the initial step and `steps`, named "1", "2" and so on.
@@ -290,22 +286,6 @@ TEST(StepContainerTest, FollowsGeometricNonlinearity) {
     for (cow_String const& name : model.Keys()) found.push_back(model.Nlgeom(name));
     EXPECT_EQ(found, answers) << testing::PrintToString(nlgeoms);
   }
-}
-
-TEST(StepContainerTest, TellsProductAndFlowSettingsByItsActiveSteps) {
-  AnyStep turbulent(Flow), warm(Static);
-  turbulent.turbulenceModel = kprC_TurbulenceModelEnm::VMS;
-  warm.energyEquation = kprC_EnergyEquationEnm::TEMPERATURE;
-  auto model = Model({AnyStep(ExplicitDynamics), AnyStep(Flow), turbulent, warm});
-  EXPECT_EQ(model.AnalysisProduct(), EXPLICIT_ANALYSIS);
-  EXPECT_EQ(model.TurbulenceModel(), kprC_TurbulenceModelEnm::TURB_NONE);
-  model.Get("1").Suppress();
-  EXPECT_EQ(model.AnalysisProduct(), CFD_ANALYSIS);
-  EXPECT_EQ(model.TurbulenceModel(), kprC_TurbulenceModelEnm::VMS);
-  EXPECT_EQ(model.EnergyEquation(), kprC_EnergyEquationEnm::ENERGY_NONE);
-  for (char const* const name : {"2", "3", "4"}) model.Get(name).Suppress();
-  EXPECT_EQ(model.AnalysisProduct(), UNDEFINED_ANALYSIS);
-  EXPECT_EQ(model.UnsuppressedKeys(), Names{"Initial"});
 }
 
 TEST(StepContainerTest, ReadsBackWhatItDumped) {

@@ -5,6 +5,7 @@
 #include "mdl_IdRepositoryOfCows.h"
 
 class kprC_AnalysisStep;
+class kprC_FlowStep;
 
 CLS_INSTANCE(kprC, mdl_IdRepositoryOfCows<cow_String, kprC_Step>);
 extern template class mdl_IdRepositoryOfCows<cow_String, kprC_Step>;
@@ -80,7 +81,7 @@ class TVO_API kprC_StepContainer final : public mdl_IdRepositoryOfCows<cow_Strin
   template <class Visit>
   void VisitActiveSteps(Visit visit) const;
   template <class Setting>
-  Setting FlowSetting(std::string_view key) const;
+  Setting FlowSetting(Setting kprC_FlowStep::*field) const;
   void EnterInitial(cow_String const& name, Holder const& step);
   bool EnterAfter(cow_String const& after, cow_String const& name, Holder const& step);
   void MoveMeshDomain(unsigned int id, cow_String const& oldName, cow_String const& newName);

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "kprC_AnalysisStep.h"
+#include "kprC_FlowStep.h"
 #include "kprC_StepSequencer.h"
 #include "kprC_assert.h"
 #include "omu_Histories.h"
@@ -239,26 +239,24 @@ bool kprC_StepContainer::Nlgeom(cow_String const& stepName) const {
   return on;
 }
 
-/// The first value of the enumeration `key` that is not 0 among the flow steps at the head of the analysis.
+/// The first value of the field that is not 0 among the flow steps at the head of the analysis.
 template <class Setting>
-Setting kprC_StepContainer::FlowSetting(std::string_view key) const {
+Setting kprC_StepContainer::FlowSetting(Setting kprC_FlowStep::*field) const {
   Setting setting{};
   VisitActiveSteps([&](cow_String const&, kprC_Step const& step) {
     if (!step.Flow()) return false;
-    if (cls_Attribute const* const attribute = step.DynAttributes().Find(key)) {
-      cls_Codec<Setting>::SetText(attribute->Text(step), setting);
-    }
+    if (auto const* const flow = dynamic_cast<kprC_FlowStep const*>(&step)) setting = flow->*field;
     return setting == Setting{};
   });
   return setting;
 }
 
 kprC_EnergyEquationEnm kprC_StepContainer::EnergyEquation() const {
-  return FlowSetting<kprC_EnergyEquationEnm>("energyEquation");
+  return FlowSetting(&kprC_FlowStep::energyEquation);
 }
 
 kprC_TurbulenceModelEnm kprC_StepContainer::TurbulenceModel() const {
-  return FlowSetting<kprC_TurbulenceModelEnm>("turbulenceModel");
+  return FlowSetting(&kprC_FlowStep::turbulenceModel);
 }
 
 kprC_AnalysisProductEnm kprC_StepContainer::AnalysisProduct() const {

@@ -1,0 +1,26 @@
+#include "kprC_CoupledThermalElectrochemStructStep.h"
+
+cls_AttributeTable const& kprC_CoupledThermalElectrochemStructStep::Attributes() {
+  using Self = kprC_CoupledThermalElectrochemStructStep;
+  static auto const table = cls_Describe<Self, kprC_AnalysisStep>("kprC_CoupledThermalElectrochemStructStep", 2602)
+                                .Attribute("nlgeom", &Self::nlgeom)
+                                .Attribute("response", &Self::response)
+                                .Attribute("timePeriod", &Self::timePeriod)
+                                .Attribute("stabilizationMagnitude", &Self::stabilizationMagnitude)
+                                .Attribute("stabilizationMethod", &Self::stabilizationMethod)
+                                .Attribute("timeIncrementationMethod", &Self::timeIncrementationMethod)
+                                .Attribute("maxNumInc", &Self::maxNumInc)
+                                .Attribute("initialInc", &Self::initialInc)
+                                .Attribute("minInc", &Self::minInc)
+                                .Attribute("maxInc", &Self::maxInc)
+                                .Attribute("deltmx", &Self::deltmx)
+                                .Attribute("cetol", &Self::cetol)
+                                .Attribute("creepIntegration", &Self::creepIntegration)
+                                .Attribute("amplitude", &Self::amplitude)
+                                .Attribute("extrapolation", &Self::extrapolation)
+                                .Attribute("adaptiveDampingRatio", &Self::adaptiveDampingRatio)
+                                .Attribute("continueDampingFactors", &Self::continueDampingFactors)
+                                .Attribute("solutionTechnique", &Self::solutionTechnique)
+                                .Constructor(constructorCmd());
+  return table;
+}
