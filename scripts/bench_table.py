@@ -31,6 +31,7 @@ GOALS = [
     ("save_archive", "save the model, against a binary archive", "ratio", 2.0),
     ("load_archive", "load the model, against a binary archive", "ratio", 2.0),
     ("file_size", "size of the file, against a binary archive", "size", 1.5),
+    ("open_old", "open a model of revision 203, against one of today", "ratio", 3.0),
     ("sequence", "sequence questions on up to 1,000 steps, growth", "growth", 1.1),
     ("sequence_edit", "a step suppressed, resumed and moved among them, growth", "growth", 1.1),
 ]

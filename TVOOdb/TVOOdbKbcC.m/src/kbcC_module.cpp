@@ -1,6 +1,7 @@
 #include "kbcC_module.h"
 
 #include "kbcC.h"
+#include "kbcC_oldClasses.h"
 #include "mdl_PropagatingAttribute.h"
 
 namespace {
@@ -27,5 +28,6 @@ DDR_DEFINE_MODULE(KbcC, kbcC,
                    .types = kbcC_TypeRows,
                    .containers = containers,
                    .classes = classes,
+                   .oldClasses = dbc_OldClassesOf<kbcC_History>,
                    .singletonEnds = singletonEnds,
                    .containersEndFirst = true})

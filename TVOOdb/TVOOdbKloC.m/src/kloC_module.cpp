@@ -1,6 +1,7 @@
 #include "kloC_module.h"
 
 #include "kloC.h"
+#include "kloC_oldClasses.h"
 #include "mdl_PropagatingAttribute.h"
 
 namespace {
@@ -28,4 +29,5 @@ DDR_DEFINE_MODULE(KloC, kloC,
                    .types = kloC_TypeRows,
                    .containers = containers,
                    .classes = classes,
+                   .oldClasses = dbc_OldClassesOf<kloC_History>,
                    .singletonEnds = singletonEnds})

@@ -1,6 +1,7 @@
 #include "kprC_module.h"
 
 #include "kprC.h"
+#include "kprC_oldClasses.h"
 #include "mdl_PropagatingAttribute.h"
 
 namespace {
@@ -31,4 +32,5 @@ DDR_DEFINE_MODULE(KprC, kprC,
                    .types = kprC_TypeRows,
                    .containers = containers,
                    .classes = classes,
+                   .oldClasses = dbc_OldClassesOf<kprC_History>,
                    .singletonEnds = singletonEnds})

@@ -88,9 +88,9 @@ class TVO_API cls_ClassRegistrar {
   /// The registry that the modules fill at start-up.
   static cls_ClassRegistrar& Present();
 
-  /// Declares a class without a base. The registrar owns the result.
+  /// Declares a class by its base's type identifier, or 1 for a class without one. The registrar owns the result.
   cls_ClassMetadata& CreateClassMD(cow_String const& name, unsigned int typeId, int version, void* (*ctor)(cls_ReadVisitor&),
-                                   unsigned int kind);
+                                   unsigned int base);
   /// Takes the metadata of a class. A class registered twice is refused, with both names.
   cls_ClassMetadata& AddClassMD(cls_ClassMetadata* metadata);
   /// Forgets a class; nothing happens if it is not known under that name.

@@ -147,6 +147,11 @@ class TVO_API cls_Database {
   cls_Table const* FindTable(unsigned int typeId) const noexcept;
   cls_Table& AddTable(unsigned int typeId, cow_String const& name, int version, unsigned int parentTypeId);
 
+  /// Puts a table in the place of the one of the same class, which it gives back.
+  std::unique_ptr<cls_Table> Replace(std::unique_ptr<cls_Table> table);
+  /// Takes the table of a class out, or gives null.
+  std::unique_ptr<cls_Table> Remove(unsigned int typeId);
+
   /// Number of a text; equal texts have one number. The empty text is number 0.
   std::uint32_t StringNumber(std::string_view text);
   cow_String const& String(std::uint32_t number) const { return strings[number]; }

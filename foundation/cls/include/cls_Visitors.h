@@ -211,6 +211,7 @@ class TVO_API cls_ReadVisitor {
   std::uint32_t Row() const noexcept { return row_; }
   cls_Table const& Table() const noexcept { return *table_; }
   void SetClass(cls_AttributeTable const& attributes) { columns_ = &session_->Columns(attributes, *table_); }
+  bool HasBasePart() const { return Cells(0) != nullptr && Cells(0)->words[row_] != cls_NoRow; }
   /// Visitor of the base class's row.
   cls_ReadVisitor BasePart() const;
   /// Visitor of the object that a column refers to; its class must be `typeId` or derive from it. Without a row if none.

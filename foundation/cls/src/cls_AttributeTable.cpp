@@ -144,7 +144,8 @@ void cls_AttributeTable::ReadLevel(cls_Persistent& object, cls_ReadVisitor reade
     reader.Refuse("the row is not one of the class that refers to it");
   }
   reader.SetClass(*this);
-  if (base_ != nullptr) {
+  // A base without attributes may have no row: it would tell nothing.
+  if (base_ != nullptr && (reader.HasBasePart() || !base_->All().empty())) {
     base_->ReadLevel(object, reader.BasePart());
   }
   for (auto const& attribute : own_) {

@@ -57,8 +57,8 @@ cls_ClassRegistrar& cls_ClassRegistrar::Present() {
 }
 
 cls_ClassMetadata& cls_ClassRegistrar::CreateClassMD(cow_String const& name, unsigned int typeId, int version,
-                                                     void* (*ctor)(cls_ReadVisitor&), unsigned int kind) {
-  return AddClassMD(new cls_ClassMetadata(name, typeId, version, ctor, kind));
+                                                     void* (*ctor)(cls_ReadVisitor&), unsigned int base) {
+  return AddClassMD(new cls_ClassMetadata(name, typeId, version, ctor, 1, base == 1 ? 0 : base));
 }
 
 cls_ClassMetadata& cls_ClassRegistrar::AddClassMD(cls_ClassMetadata* metadata) {

@@ -71,6 +71,29 @@ cls_Table& cls_Database::AddTable(unsigned int typeId, cow_String const& name, i
   return table;
 }
 
+std::unique_ptr<cls_Table> cls_Database::Replace(std::unique_ptr<cls_Table> table) {
+  cls_Table*& known = byId_.at(table->typeId);
+  table->index = known->index;
+  known = table.get();
+  tables[table->index].swap(table);
+  return table;
+}
+
+std::unique_ptr<cls_Table> cls_Database::Remove(unsigned int typeId) {
+  auto const found = byId_.find(typeId);
+  if (found == byId_.end()) {
+    return nullptr;
+  }
+  std::size_t const index = found->second->index;
+  std::unique_ptr<cls_Table> table = std::move(tables[index]);
+  tables.erase(tables.begin() + static_cast<std::ptrdiff_t>(index));
+  byId_.erase(found);
+  for (std::size_t i = index; i < tables.size(); ++i) {
+    tables[i]->index = i;
+  }
+  return table;
+}
+
 std::uint32_t cls_Database::StringNumber(std::string_view text) {
   if (text.empty()) {
     return 0;

@@ -23,8 +23,9 @@ TVO_API cls_Database dbc_OpenDatabase(cow_String const& path, int* schemaRevisio
 
 /// Saves an object with all that it holds.
 TVO_API void dbc_SaveObject(cls_Persistent const& root, cow_String const& path);
-/// Reads an object with all that it holds; the caller owns it. A class that this release does not know in the stored
-/// version is refused.
+/// Reads an object with all that it holds; the caller owns it. A file of an older revision is converted in memory
+/// first; the file stays as it is until somebody saves. A class or attribute that neither this release nor its old
+/// class versions know is refused.
 TVO_API std::unique_ptr<cls_Persistent> dbc_OpenObject(cow_String const& path);
 /// As above; an object that is not of class `typeId` or one derived from it is refused.
 TVO_API std::unique_ptr<cls_Persistent> dbc_OpenObject(cow_String const& path, unsigned int typeId);

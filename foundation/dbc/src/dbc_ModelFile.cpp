@@ -11,6 +11,7 @@
 #include "cls_Registrar.h"
 #include "dbc_Bytes.h"
 #include "dbc_Coding.h"
+#include "dbc_DatabaseConverter.h"
 #include "dbc_FileHeader.h"
 #include "dbc_NewFile.h"
 #include "nex_Exception.h"
@@ -183,27 +184,27 @@ void CheckOwners(cls_Database const& database) {
   }
 }
 
-/// Every stored class must be one of the present classes, in the present version.
-void CheckClasses(StoredModel& model) {
-  auto const refuse = [&](std::string const& reason) { model.Refuse(dbc_SectionKind::Classes, reason); };
-  for (auto const& table : model.Decoded().database.tables) {
-    std::string const stored =
-        std::string("class ") + table->name.CStr() + " has version " + std::to_string(table->version);
-    cls_ClassMetadata const* const present = cls_ClassRegistrar::Present().Find(table->typeId);
-    if (present == nullptr || !(present->Name() == table->name)) {
-      refuse(stored + " and identifier " + std::to_string(table->typeId) + ", which this release does not know");
-    }
-    if (present->Version() != table->version) {
-      refuse(stored + ", this release reads version " + std::to_string(present->Version()));
-    }
-    if (present->ParentTypeId() != table->parentTypeId || present->Declared() != table->declared) {
-      refuse(stored + " as in this release, but other attributes");
-    }
+void CheckReferences(cls_Database const& database) {
+  cls_ReadSession const session(database);
+  CheckOwners(database);
+}
+
+/// Brings all tables to the present versions. Nothing is built before all classes and attributes are known.
+void Convert(StoredModel& model) {
+  cls_Database& database = model.Decoded().database;
+  if (std::string const unknown = dbc_DatabaseConverter::FirstUnknown(database); !unknown.empty()) {
+    model.Refuse(dbc_SectionKind::Classes, unknown);
+  }
+  if (dbc_DatabaseConverter::IsOld(database)) {
+    model.Checked([&] {
+      CheckReferences(database);
+      dbc_DatabaseConverter(database).Run();
+    });
   }
 }
 
 std::unique_ptr<cls_Persistent> ReadObject(StoredModel model) {
-  CheckClasses(model);
+  Convert(model);
   cls_Database const& database = model.Decoded().database;
   return model.Checked([&] {
     cls_ReadSession session(database);
@@ -211,11 +212,6 @@ std::unique_ptr<cls_Persistent> ReadObject(StoredModel model) {
     cls_ReadVisitor reader(session);
     return std::unique_ptr<cls_Persistent>(cls_ConstructStored(reader));
   });
-}
-
-void CheckReferences(cls_Database const& database) {
-  cls_ReadSession const session(database);
-  CheckOwners(database);
 }
 
 }  // namespace

@@ -50,6 +50,7 @@ struct ddr_ModuleTables {
   std::span<typ_Row const> types = {};
   std::span<ddr_ModuleContainer const> containers = {};
   std::span<ddr_ModuleClass const> classes = {};
+  ddr_ModuleContainer oldClasses = {nullptr, nullptr};  ///< versions of classes that stand in older databases
   std::span<void (*const)()> singletonEnds = {};
   bool containersEndFirst = false;  ///< before the singletons, not after them
   void (*keep)() = nullptr;  ///< of a library that the linker must keep: a reference, not a step

@@ -10,6 +10,7 @@ void ddr_Module::Initialize(int& depth) {
   cls_MetadataRegistrar& registrar = cls_MetadataRegistrar::Instance();
   for (ddr_ModuleClass const& entry : tables_.classes) registrar.initClassMetadata(entry.registration, entry.phase);
   registrar.RunPhases();
+  if (tables_.oldClasses.enter != nullptr) tables_.oldClasses.enter();
 }
 
 void ddr_Module::Finalize(int& depth) {
@@ -17,6 +18,7 @@ void ddr_Module::Finalize(int& depth) {
   if (tables_.containersEndFirst) RemoveContainers();
   EndSingletons();
   if (!tables_.containersEndFirst) RemoveContainers();
+  if (tables_.oldClasses.remove != nullptr) tables_.oldClasses.remove();
   for (ddr_ModuleClass const& entry : tables_.classes) {
     cls_AttributeTable const& attributes = entry.attributes();
     cls_ClassRegistrar::Present().DeleteClass(attributes.Name(), attributes.TypeId());

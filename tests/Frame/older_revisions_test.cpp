@@ -1,0 +1,251 @@
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <unistd.h>
+
+#include "../OldModel.h"
+#include "../StepPlan.h"
+#include "kbcC_ConnDisplacementBC.h"
+#include "ddr_Model.h"
+#include "kbcC_DisplacementBC.h"
+#include "kprC_StepContainer.h"
+
+// Whole models of earlier revisions: opened they are the model of today, and whatever is wrong with them is refused.
+
+namespace {
+
+using Conditions = kprC_PropagatingContainer<kbcC_BC>;
+using Bytes = std::vector<std::uint8_t>;
+
+constexpr int revisions[] = {203, 204,  205,  207,  302,  328,  409,  439,  445,  448,  510,  800,
+                             831, 851,  858,  867,  871,  881,  1033, 1035, 1044, 1327, 1346, 1389,
+                             1563, 2001, 2511, 2608};
+
+template <class T>
+T& Extension(ddr_Model& model, char const* name) {
+  return dynamic_cast<T&>(model.GetExtension(name).GetValue());
+}
+template <class T>
+T const& Extension(cls_Persistent const& model, char const* name) {
+  return dynamic_cast<T const&>(dynamic_cast<ddr_Model const&>(model).ConstGetExtension(name).ConstGetValue());
+}
+
+/// Steps of three procedures whose values conversion cannot change, and conditions that are created, modified, moved
+/// out and suppressed on the way.
+ddr_Model SampleModel() {
+  ddr_Model model;
+  auto& steps = Extension<kprC_StepContainer>(model, "steps");
+  steps.SetInitialStep("Initial", kprC_InitialStep());
+  cow_String last = "Initial";
+  auto const add = [&](char const* name, kprC_AnalysisStep const& step) {
+    steps.InsertAfter(last, name, step, false);
+    last = name;
+  };
+  kprC_StaticStep pull;
+  pull.description = "pulls";
+  pull.initialInc = pull.minInc = pull.maxInc = pull.timePeriod = 2.0;
+  pull.matrixStorage = kprC_Step::MatrixStorageEnm::SYMMETRIC;
+  pull.stepId = 11;
+  add("Pull", pull);
+  kprC_FrequencyStep modes;
+  modes.numEigen = 12;
+  modes.firstCutoffMultiplier = 1.6;
+  modes.secondCutoffMultiplier = 1.3;
+  modes.projectDamping = true;
+  modes.simLinearDynamics = false;
+  modes.acousticCoupling = kprC_FrequencyStep::AC_OFF;
+  modes.stepId = 12;
+  add("Modes", modes);
+  kprC_ModalDynamicsStep swing;
+  swing.timePeriod = 3.0;
+  swing.incSize = 0.1;
+  swing.directDamping = kprC_DirectDamping();
+  swing.stepId = 13;
+  add("Swing", swing);
+  pull.description = "pulls back";
+  pull.stepId = 14;
+  add("Back", pull);
+
+  auto& conditions = Extension<Conditions>(model, "bcs");
+  conditions.UpdateSteps(steps.StepList(), cow_String(), false);
+  for (int i = 0; i < 4; ++i) {
+    kbcC_DisplacementBCState state;
+    state.u1 = i == 1 || i == 2 ? 0.0 : 0.5 + i;
+    kbcC_DisplacementBC condition;
+    condition.region = rgnC_Region(cow_String("Set-" + std::to_string(i)));
+    condition.fixed = i == 1;
+    condition.Insert(i == 2 ? "Initial" : "Pull", state);
+    conditions.Insert(cow_String("BC-" + std::to_string(i)), condition);
+  }
+  conditions.Get("BC-3").Deactivate("Back");
+  kbcC_ConnDisplacementBC hinge;
+  hinge.region = rgnC_Region("Wire");
+  kbcC_ConnDisplacementBCState turn;
+  turn.ur1 = 0.25;
+  hinge.Insert("Pull", turn);
+  conditions.Insert("Hinge", hinge);
+  return model;
+}
+
+/// The model with all step ids 0: revisions before 409 had none, and conversion gives new ones.
+std::unique_ptr<cls_Persistent> WithoutStepIds(cls_Persistent const& model) {
+  cls_Database database;
+  cls_WriteSession session(database);
+  model.DBWrite(cls_WriteVisitor(session));
+  database.Complete();
+  cls_Table& table = *database.FindTable(kprC_Step::TypeId());
+  auto& ids = table.columns[static_cast<std::size_t>(table.FindColumn("stepId"))].words;
+  std::fill(ids.begin(), ids.end(), 0u);
+  return dbc_DecodeObject(dbc_EncodeDatabase(database, dbc_SchemaRevision), "ids");
+}
+
+class OlderRevisionsTest : public testing::Test {
+ protected:
+  static std::string Refused(Bytes const& file) {
+    return Refusal([&] { dbc_DecodeObject(file, "old.db"); });
+  }
+
+  LibraryEnvironment const library_;
+  ddr_Model const model_ = [this] {
+    const_cast<LibraryEnvironment&>(library_).SetUp();
+    return SampleModel();
+  }();
+  ~OlderRevisionsTest() override { const_cast<LibraryEnvironment&>(library_).TearDown(); }
+};
+
+}  // namespace
+
+TEST_F(OlderRevisionsTest, AModelOfAnyRevisionOpensAsTheModelOfToday) {
+  auto const expected = WithoutStepIds(model_);
+  for (int const revision : revisions) {
+    SCOPED_TRACE(revision);
+    auto const opened = dbc_DecodeObject(OldModel(model_, revision).File(), "old.db");
+    auto const& steps = Extension<kprC_StepContainer>(*opened, "steps");
+    ASSERT_EQ(steps.Keys(), Extension<kprC_StepContainer>(model_, "steps").Keys());
+    EXPECT_EQ(Refusal([&] { steps.AssertValid(); }), "passes");
+    EXPECT_TRUE(cls_EqualValues(*WithoutStepIds(*opened), *expected));
+
+    std::set<int> ids;
+    for (cow_String const& name : steps.Keys()) ids.insert(steps.ConstGet(name).stepId);
+    EXPECT_TRUE(revision >= 409 || (ids.size() == 5 && !ids.contains(0)));
+    EXPECT_TRUE(revision < 409 || ids.contains(14));
+
+    // The steps of the model are those that conditions and lists of steps hold.
+    auto const& conditions = Extension<Conditions>(*opened, "bcs");
+    for (kprC_StepNameProcedurePair const& pair : conditions.Procedures()) {
+      EXPECT_TRUE(pair.procedure.IsNull() || &pair.procedure.ConstGet() == &steps.ConstGet(pair.stepName));
+    }
+    for (auto const& quad : conditions.ConstGet("BC-0").States()) {
+      EXPECT_TRUE(!quad.HasStep() || &quad.Step() == &steps.ConstGet(quad.stepName));
+    }
+    auto const again = dbc_DecodeObject(dbc_EncodeObject(*opened), "new.db");
+    EXPECT_TRUE(cls_EqualValues(*again, *opened));
+  }
+}
+
+TEST_F(OlderRevisionsTest, OpeningLeavesTheFileAloneUntilItIsSaved) {
+  std::string const path = testing::TempDir() + "old_" + std::to_string(::getpid()) + ".db";
+  auto const contents = [&] {
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+  };
+  dbc_SaveDatabase(OldModel(model_, 203).database, 203, path.c_str());
+  std::string const before = contents();
+  auto const opened = dbc_OpenObject(path.c_str());
+  EXPECT_EQ(contents(), before);
+  dbc_SaveObject(*opened, path.c_str());
+  int revision = 0;
+  EXPECT_NE(dbc_OpenDatabase(path.c_str(), &revision).FindTable(kprC_StaticStep::TypeId()), nullptr);
+  EXPECT_EQ(revision, dbc_SchemaRevision);
+  EXPECT_TRUE(cls_EqualValues(*dbc_OpenObject(path.c_str()), *opened));
+  std::filesystem::remove(path);
+}
+
+TEST_F(OlderRevisionsTest, NamesTheClassAndTheAttributeThatNoChainKnows) {
+  auto const changed = [&](int revision, auto change) {
+    OldModel old(model_, revision);
+    change(old.database);
+    std::string const text = Refused(old.File());
+    return text.substr(text.find(": ", text.find(" at offset ")) + 2);
+  };
+  auto const table = [](cls_Database& database, unsigned int id) { return OldTable(database, *database.FindTable(id)); };
+  constexpr unsigned int frequency = kprC_TypeId("kprC_FrequencyStep");
+  EXPECT_EQ(changed(858, [&](auto& database) { table(database, frequency).Add({{40, "colour"}, cls_AttributeType::Int}); }),
+            "class kprC_FrequencyStep has version 858 and an attribute colour that this version does not have");
+  // An attribute of a later version, and one in another form.
+  EXPECT_EQ(changed(858, [&](auto& database) {
+              table(database, frequency).Add({{40, "projectDamping"}, cls_AttributeType::Bool});
+            }),
+            "class kprC_FrequencyStep has version 858 and an attribute projectDamping that this version does not have");
+  EXPECT_EQ(changed(831, [&](auto& database) {
+              OldTable steps = table(database, frequency);
+              steps.Drop({"acousticCoupling"});
+              steps.Add({{40, "acousticCoupling"}, cls_AttributeType::Enum});
+            }),
+            "class kprC_FrequencyStep has version 831 and an attribute acousticCoupling that this version does not have");
+  EXPECT_EQ(changed(858, [&](auto& database) { table(database, frequency).SetVersion(859); }),
+            "class kprC_FrequencyStep has version 859, this release reads version 831, 858, 881, 1033, 1044, 1346");
+  EXPECT_EQ(changed(510, [&](auto& database) { database.AddTable(0x2a00050, "kinC_Bolt", 302, 0); }),
+            "class kinC_Bolt has version 302 and identifier " + std::to_string(0x2a00050) +
+                ", which this release does not know");
+  EXPECT_EQ(changed(510, [&](auto& database) {
+              table(database, kprC_TypeId("kprC_StepNameProcedurePair")).Become(kprC_TypeId("kprC_StepNameProcedurePair"), "kprC_Pair", 0);
+            }),
+            "class kprC_Pair has version 203 and identifier " + std::to_string(kprC_TypeId("kprC_StepNameProcedurePair")) +
+                ", which this release does not know");
+  OldModel const newer(model_, 2608);
+  Bytes const file = dbc_AssembleFile(dbc_SchemaRevision + 1, {});
+  EXPECT_NE(Refused(file).find("schema revision 2614, this release reads 2613"), std::string::npos);
+}
+
+// A class that has gone without a successor: its table is dropped whatever it holds, and so are references to its rows.
+TEST_F(OlderRevisionsTest, DropsWhatHasGone) {
+  OldModel old(model_, 510);
+  cls_Database& database = old.database;
+  unsigned int const connector = typ_ArchCompTable::FindId("kcnC_Connector");
+  cls_Table& table = database.AddTable(connector, "kcnC_Connector", 203, 0);
+  table.AddColumns({{0, "stiffness"}, cls_AttributeType::Double});
+  table.NewRow(77);
+  database.Complete();
+  // One more entry in the list of contact controls of an analysis step, in front of nothing else.
+  cls_Table& steps = *database.FindTable(kprC_TypeId("kprC_AnalysisStep"));
+  auto const column = static_cast<std::size_t>(steps.FindColumn("contactControls#OID"));
+  cls_Collection& list = database.collections[steps.columns[column].words[0]];
+  list.first = static_cast<std::uint32_t>(database.words.size());
+  list.count = 1;
+  database.words.insert(database.words.end(), {connector, 0});
+  auto const opened = dbc_DecodeObject(old.File(), "old.db");
+  EXPECT_TRUE(cls_EqualValues(*opened, *dbc_DecodeObject(dbc_EncodeObject(model_), "new.db")));
+}
+
+TEST_F(OlderRevisionsTest, ADamagedFileIsRefusedOrSound) {
+  for (int const revision : {203, 881}) {
+    Bytes const file = OldModel(model_, revision).File();
+    for (std::size_t at = 0; at < file.size(); at += 3) {
+      Bytes damaged = file;
+      damaged[at] ^= 0x5a;
+      EXPECT_TRUE(Refused(damaged).starts_with("old.db: section ")) << at;
+    }
+    // Under right checksums, as somebody would make it who knows the form of the file.
+    std::vector<dbc_SectionContent> contents;
+    for (dbc_Section const& section : dbc_ListSections(file, "x")) {
+      auto const first = file.begin() + static_cast<std::ptrdiff_t>(section.offset);
+      contents.push_back({section.kind, Bytes(first, first + static_cast<std::ptrdiff_t>(section.length))});
+    }
+    for (std::size_t section = 0; section < contents.size(); ++section) {
+      for (std::size_t at = 0; at < contents[section].bytes.size(); ++at) {
+        std::uint8_t& byte = contents[section].bytes[at];
+        std::uint8_t const whole = byte;
+        int const values[] = {0x00, 0xff, whole ^ 0x01};
+        byte = static_cast<std::uint8_t>(values[at % 3]);
+        try {
+          auto const opened = dbc_DecodeObject(dbc_AssembleFile(revision, contents), "old.db");
+          dbc_EncodeObject(*opened);
+        } catch (TVOBasException const&) {
+          // Any refusal will do; what is opened must be sound.
+        }
+        byte = whole;
+      }
+    }
+  }
+}
