@@ -28,6 +28,7 @@ GOALS = [
     ("load_archive", "load the model, against a binary archive", "ratio", 2.0),
     ("file_size", "size of the file, against a binary archive", "size", 1.5),
     ("sequence", "sequence questions on up to 1,000 steps, growth", "growth", 1.1),
+    ("sequence_edit", "a step suppressed, resumed and moved among them, growth", "growth", 1.1),
 ]
 
 NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}

@@ -84,7 +84,8 @@ class RandomEdits {
   /// What makes a step of most procedures valid.
   static std::string Usual(cls_AttributeTable const& type) {
     std::string settings;
-    for (char const* usual : {"initialInc=0.1", "minInc=0.01", "maxInc=1", "incSize=0.1", "numEigen=5", "vectors=9"}) {
+    for (char const* usual : {"initialInc=0.1", "minInc=0.01", "maxInc=1", "incSize=0.1", "numEigen=5", "vectors=9",
+                              "frequencyRange=lower=1,upper=50", "substructureIdentifier=1"}) {
       std::string const setting = usual;
       if (type.Find(setting.substr(0, setting.find('='))) != nullptr) settings += ' ' + setting;
     }

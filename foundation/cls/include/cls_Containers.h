@@ -197,30 +197,55 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
   static std::string Text(List const& list) {
     std::string text;
     for (T const& element : list) {
-      text += text.empty() ? "" : ",";
-      text += cls_Codec<T>::Text(element);
+      text += text.empty() ? "" : (TypedByValues() ? ";" : ",");
+      text += ElementText(element);
     }
     return text;
   }
   static bool SetText(std::string_view text, List& list) {
-    if constexpr (cls_Named<T>) {
-      list.Clear();
-      while (!text.empty()) {
-        std::size_t const comma = text.find(',');
-        T element;
-        element.SetText(text.substr(0, comma));
-        list.Append(element);
-        text = comma == std::string_view::npos ? std::string_view() : text.substr(comma + 1);
+    if (!cls_Named<T> && !TypedByValues()) {
+      return false;
+    }
+    List read;
+    while (!text.empty()) {
+      std::size_t const end = text.find(cls_Named<T> ? ',' : ';');
+      T element;
+      if (!SetElement(element, text.substr(0, end))) {
+        return false;
       }
-      return true;
+      read.Append(element);
+      text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
+    }
+    static_cast<cow_List<T>&>(list) = read;
+    return true;
+  }
+  static constexpr char const* expected =
+      cls_Named<T> ? "names with commas between them" : "objects that scripts make, as key=value,key=value;key=value";
+
+ private:
+  static constexpr bool byValue = std::derived_from<T, cls_Persistent>;
+
+  // Elements that have no name but that scripts make are typed by their values, which takes the comma.
+  static bool TypedByValues() {
+    if constexpr (byValue && !cls_Named<T>) {
+      return !T::Attributes().ScriptingName().IsEmpty();
     } else {
       return false;
     }
   }
-  static constexpr char const* expected = cls_Named<T> ? "names with commas between them" : "no text: objects stand here";
-
- private:
-  static constexpr bool byValue = std::derived_from<T, cls_Persistent>;
+  static std::string ElementText(T const& element) {
+    return TypedByValues() ? cls_ValuesText(ObjectOf(element)) : cls_Codec<T>::Text(element);
+  }
+  static bool SetElement(T& element, std::string_view text) {
+    if constexpr (cls_Named<T>) {
+      element.SetText(text);
+      return true;
+    } else if constexpr (byValue) {
+      return cls_SetValuesText(element, text);
+    } else {
+      return false;
+    }
+  }
   static cls_Persistent const& ObjectOf(T const& element) {
     if constexpr (byValue) {
       return element;
