@@ -135,6 +135,7 @@ void kbcC_BCPropagator::Perturb(int procedure) {
     kbcC_BCState& state = running_.state.Get();
     state.Zero();
     state.Propagate();
+    state.deactivate = false;  // a mark of the step that creates is that step's own
     state.NewUid();
     running_.status = STATUS_BASE_PROPAGATED;
   }
