@@ -27,7 +27,9 @@ class OldTable {
   std::vector<double>& Doubles(std::string_view field) const {
     return table_->columns[static_cast<std::size_t>(table_->FindColumn(field))].doubles;
   }
-  std::string Text(std::string_view field, std::uint32_t row) const { return database_.String(Words(field)[row]).CStr(); }
+  std::string Text(std::string_view field, std::uint32_t row) const {
+    return database_.String(Words(field)[row]).CStr();
+  }
   void SetText(std::string_view field, std::uint32_t row, std::string_view text) const {
     Words(field)[row] = database_.StringNumber(text);
   }
@@ -136,7 +138,9 @@ class OldModel {
       if (revision_ < 1044) table.Drop({"simLinearDynamics"});
       if (revision_ < 1033) {
         std::vector<std::uint32_t> off(table.Rows());
-        for (std::uint32_t row = 0; row < table.Rows(); ++row) off[row] = table.Text("acousticCoupling", row) == "AC_OFF";
+        for (std::uint32_t row = 0; row < table.Rows(); ++row) {
+          off[row] = table.Text("acousticCoupling", row) == "AC_OFF";
+        }
         table.Drop({"projectDamping", "acousticRangeFactor", "acousticCoupling"});
         table.Add({{13, "acousticCoupling"}, cls_AttributeType::Int});
         for (std::uint32_t row = 0; row < table.Rows(); ++row) table.Words("acousticCoupling")[row] = 1 - off[row];
@@ -155,7 +159,7 @@ class OldModel {
     });
   }
 
-  /// A step "kprC_XStep" was a procedure "kprC_X" in an analysis step; conditions and lists of steps held the procedure.
+  /// A step "kprC_XStep" was a procedure "kprC_X" in an analysis step; conditions and lists of steps held that.
   void PutProceduresIntoSteps() {
     cls_Table* const steps = database.FindTable(Id("kprC_AnalysisStep"));
     if (steps == nullptr) return;
@@ -165,7 +169,8 @@ class OldModel {
     std::map<std::pair<std::uint32_t, std::uint32_t>, std::uint32_t> analysisRows;
     for (OldNumbers const& procedure : procedures_) {
       std::string const former = procedure.name;
-      std::string const step = former == "kprC_DynamicTempDisplacement" ? "kprC_TempDisplacementDynamicsStep" : former + "Step";
+      bool const turned = former == "kprC_DynamicTempDisplacement";
+      std::string const step = turned ? "kprC_TempDisplacementDynamicsStep" : former + "Step";
       In(step, [&](OldTable& table) {
         formerIds[Id(step)] = Id(former);
         for (std::uint32_t row = 0; row < table.Rows(); ++row) {
