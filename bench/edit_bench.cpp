@@ -78,6 +78,78 @@ void BM_CopyDeeply(benchmark::State& state) {
 }
 BENCHMARK(BM_CopyDeeply)->Name("goal/insert_step_10000/baseline")->Arg(10'000)->Unit(benchmark::kMillisecond);
 
+// ---- each change of the steps under loads and boundary conditions together, beside a deep copy of both
+
+constexpr int mixedObjects = 10'000;
+constexpr int mixedSteps = 50;
+
+/// What a change makes of the steps, the step that it suppresses, and the steps that it begins with.
+struct StepChange {
+  kprC_StepList before = StepsOf(mixedSteps);
+  kprC_StepList after = before;
+  cow_String suppressed;
+};
+
+StepChange Insertion() {
+  StepChange change;
+  change.after = WithStepInserted(change.before);
+  return change;
+}
+StepChange Removal() {
+  StepChange change;
+  change.after.RemoveIndex(mixedSteps / 2);
+  return change;
+}
+/// A step becomes one in which a perturbation works on what the steps before it have built up.
+StepChange Replacement() {
+  StepChange change;
+  change.after.Get(mixedSteps / 2).procedure = kprC_StepHolder(new kprC_FrequencyStep());
+  return change;
+}
+StepChange Suppression() {
+  StepChange change;
+  kprC_StepNameProcedurePair& step = change.after.Get(mixedSteps / 2);
+  step.procedure.Get().suppress = true;
+  change.suppressed = step.stepName;
+  return change;
+}
+
+void ChangeSteps(benchmark::State& state, StepChange const& change) {
+  MixedModel const model(mixedObjects, change.before);
+  for (auto _ : state) {
+    state.PauseTiming();
+    std::unique_ptr<MixedModel> edited = model.DeepCopy();
+    state.ResumeTiming();
+    edited->UpdateSteps(change.after, change.suppressed, true);
+    state.PauseTiming();
+    edited.reset();
+    state.ResumeTiming();
+  }
+}
+
+void CopyMixed(benchmark::State& state) {
+  MixedModel const model(mixedObjects, StepsOf(mixedSteps));
+  for (auto _ : state) {
+    std::unique_ptr<MixedModel> copy = model.DeepCopy();
+    state.PauseTiming();
+    copy.reset();
+    state.ResumeTiming();
+  }
+}
+
+void BM_MixedInsert(benchmark::State& state) { ChangeSteps(state, Insertion()); }
+void BM_MixedRemove(benchmark::State& state) { ChangeSteps(state, Removal()); }
+void BM_MixedReplace(benchmark::State& state) { ChangeSteps(state, Replacement()); }
+void BM_MixedSuppress(benchmark::State& state) { ChangeSteps(state, Suppression()); }
+BENCHMARK(BM_MixedInsert)->Name("goal/mixed_insert/ours")->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_MixedRemove)->Name("goal/mixed_remove/ours")->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_MixedReplace)->Name("goal/mixed_replace/ours")->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_MixedSuppress)->Name("goal/mixed_suppress/ours")->Unit(benchmark::kMillisecond);
+BENCHMARK(CopyMixed)->Name("goal/mixed_insert/baseline")->Unit(benchmark::kMillisecond);
+BENCHMARK(CopyMixed)->Name("goal/mixed_remove/baseline")->Unit(benchmark::kMillisecond);
+BENCHMARK(CopyMixed)->Name("goal/mixed_replace/baseline")->Unit(benchmark::kMillisecond);
+BENCHMARK(CopyMixed)->Name("goal/mixed_suppress/baseline")->Unit(benchmark::kMillisecond);
+
 // ---- a copy for undo
 
 void BM_CopyForUndo(benchmark::State& state) {

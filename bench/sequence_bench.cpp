@@ -1,4 +1,4 @@
-// Do questions about a long sequence of steps stay linear in its length?
+// Do questions about a long sequence of steps, and edits of it, stay linear in its length?
 
 #include "BenchModel.h"
 #include "kprC_FrequencyStep.h"
@@ -34,5 +34,24 @@ void BM_RunAndAsk(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_RunAndAsk)->Name("goal/sequence/ours")->RangeMultiplier(2)->Range(125, 1000);
+
+/// One step suppressed, resumed, moved to the end and back, with the order tested after each edit.
+void BM_EditAndRun(benchmark::State& state) {
+  int const count = static_cast<int>(state.range(0));
+  kprC_StepContainer container = SequenceOf(count);
+  cow_String const before("Step-" + std::to_string(count / 2 - 1));
+  cow_String const moved("Step-" + std::to_string(count / 2));
+  auto const run = [&] { kprC_StepSequencer(container, false).Run(); };
+  for (auto _ : state) {
+    container.Get(moved).Suppress();
+    run();
+    container.Get(moved).Resume();
+    run();
+    for (cow_String const& after : {container.LastStep(), before}) {
+      container.InsertAfter(after, moved, kprC_FrequencyStep(), false);
+    }
+  }
+}
+BENCHMARK(BM_EditAndRun)->Name("goal/sequence_edit/ours")->RangeMultiplier(2)->Range(125, 1000);
 
 }  // namespace

@@ -21,6 +21,10 @@ GOALS = [
     ("insert_step_10000", "insert a step under 10,000 conditions, against copying them", "ratio", 4.0),
     ("insert_step_objects", "the same, growth in objects", "growth", 1.1),
     ("insert_step_steps", "the same, growth in steps", "growth", 1.1),
+    ("mixed_insert", "insert a step under 10,000 loads and conditions, against copying them", "ratio", 4.0),
+    ("mixed_remove", "remove a step under them", "ratio", 4.0),
+    ("mixed_replace", "replace a step under them", "ratio", 4.0),
+    ("mixed_suppress", "suppress a step under them", "ratio", 4.0),
     ("repository_copy", "copy a repository, growth in objects", "growth", 0.1),
     ("save_sqlite", "save the model, against SQLite", "speedup", 10.0),
     ("load_sqlite", "load the model, against SQLite", "speedup", 10.0),
@@ -29,6 +33,7 @@ GOALS = [
     ("file_size", "size of the file, against a binary archive", "size", 1.5),
     ("open_old", "open a model of revision 203, against one of today", "ratio", 3.0),
     ("sequence", "sequence questions on up to 1,000 steps, growth", "growth", 1.1),
+    ("sequence_edit", "a step suppressed, resumed and moved among them, growth", "growth", 1.1),
 ]
 
 NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}

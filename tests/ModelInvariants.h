@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,7 +19,8 @@
 /// Gathers what is broken, with where.
 class ModelInvariants {
  public:
-  explicit ModelInvariants(EditedModel const& model) : model_(model), steps_(model.Steps().StepList()) {
+  explicit ModelInvariants(EditedModel const& model)
+      : steps_(model.Steps().StepList()) {
     for (kprC_StepRepository const* repository : model.Repositories()) {
       StepListsAgree(*repository);
       for (cow_String const& key : repository->Keys()) {
@@ -28,14 +30,20 @@ class ModelInvariants {
       }
       SuppressedStepsLeaveNoTrace(*repository);
     }
-    IdentitiesAreUnique();
-    ReadsBackEqual();
+    cls_Database database;
+    cls_WriteSession session(database);
+    model.Model().DBWrite(cls_WriteVisitor(session));
+    database.Complete();
+    IdentitiesAreUnique(database);
+    bytes_ = dbc_EncodeDatabase(database, dbc_SchemaRevision);
+    auto const read = dbc_DecodeObject(bytes_, "model");
+    Expect(cls_EqualValues(*read, model.Model()), "another model after saving and opening", "");
   }
 
   std::string const& Broken() const { return broken_; }
 
-  /// The model as bytes: what an edit of another copy must not change.
-  static std::vector<std::uint8_t> Bytes(EditedModel const& model) { return dbc_EncodeObject(model.Model()); }
+  /// The model as it is saved: what an edit of another copy must not change.
+  std::vector<std::uint8_t> const& Bytes() const { return bytes_; }
 
  private:
   void Expect(bool holds, char const* what, cow_String const& where) {
@@ -122,37 +130,33 @@ class ModelInvariants {
     }
   }
 
-  /// Objects, their states and quads. A step that was edited may stand in a repository's list as it was before.
-  static bool IsOfObjects(unsigned int typeId) {
-    for (auto const& [id, metadata] : cls_ClassRegistrar::Present().All()) {
-      cls_AttributeTable const* const table = metadata->Attributes();
-      cls_AttributeTable const* const state = table == nullptr ? nullptr : table->StepState();
-      if (state != nullptr && (id == typeId || state->TypeId() == typeId)) return true;
-    }
-    cls_ClassMetadata const* const metadata = cls_ClassRegistrar::Present().Find(typeId);
-    return metadata != nullptr && metadata->Name().View().starts_with("kprC_PropagatingState");
-  }
-
-  void IdentitiesAreUnique() {
-    cls_Database database;
-    cls_WriteSession session(database);
-    model_.Model().DBWrite(cls_WriteVisitor(session));
-    database.Complete();
-    for (auto const& table : database.tables) {
-      if (!IsOfObjects(table->typeId)) continue;
-      std::set<std::uint64_t> seen;
-      for (std::uint64_t const uid : table->uids) {
-        if (uid != 0 && !seen.insert(uid).second) Expect(false, "an identity twice", table->name);
+  /// The classes of objects, of their states and quads. A step that was edited may stand in a repository's list as it
+  /// was before, with the same identity.
+  static std::set<unsigned int> const& ClassesOfObjects() {
+    static std::set<unsigned int> const classes = [] {
+      std::set<unsigned int> found;
+      for (auto const& [typeId, metadata] : cls_ClassRegistrar::Present().All()) {
+        cls_AttributeTable const* const table = metadata->Attributes();
+        if (metadata->Name().View().starts_with("kprC_PropagatingState")) found.insert(typeId);
+        if (table == nullptr || table->StepState() == nullptr) continue;
+        found.insert({typeId, table->StepState()->TypeId()});
       }
+      return found;
+    }();
+    return classes;
+  }
+
+  void IdentitiesAreUnique(cls_Database const& database) {
+    for (auto const& table : database.tables) {
+      if (!ClassesOfObjects().contains(table->typeId)) continue;
+      auto uids = table->uids;
+      std::sort(uids.begin(), uids.end());
+      uids.erase(uids.begin(), std::upper_bound(uids.begin(), uids.end(), 0u));  // rows of base levels
+      Expect(std::adjacent_find(uids.begin(), uids.end()) == uids.end(), "an identity twice", table->name);
     }
   }
 
-  void ReadsBackEqual() {
-    auto const read = dbc_DecodeObject(Bytes(model_), "model");
-    Expect(cls_EqualValues(*read, model_.Model()), "another model after saving and opening", "");
-  }
-
-  EditedModel const& model_;
   kprC_StepList const steps_;
+  std::vector<std::uint8_t> bytes_;
   std::string broken_;
 };

@@ -84,7 +84,8 @@ class RandomEdits {
   /// What makes a step of most procedures valid.
   static std::string Usual(cls_AttributeTable const& type) {
     std::string settings;
-    for (char const* usual : {"initialInc=0.1", "minInc=0.01", "maxInc=1", "incSize=0.1", "numEigen=5", "vectors=9"}) {
+    for (char const* usual : {"initialInc=0.1", "minInc=0.01", "maxInc=1", "incSize=0.1", "numEigen=5", "vectors=9",
+                              "frequencyRange=lower=1,upper=50", "substructureIdentifier=1"}) {
       std::string const setting = usual;
       if (type.Find(setting.substr(0, setting.find('='))) != nullptr) settings += ' ' + setting;
     }
@@ -114,16 +115,17 @@ class LivingModel {
   std::string Run(std::string const& line) {
     script_ += line + '\n';
     EditedModel const before = model_;
-    auto const bytesBefore = std::move(bytes_);
     try {
       Execute({model_, out_}, ScriptLine(line));
     } catch (std::exception const&) {
       model_ = before;
       ++refused_;
     }
-    bytes_ = ModelInvariants::Bytes(model_);
-    std::string broken = ModelInvariants(model_).Broken();
-    if (ModelInvariants::Bytes(before) != bytesBefore) broken += "the edit shows in a copy taken before it\n";
+    std::string broken;
+    if (dbc_EncodeObject(before.Model()) != bytes_) broken += "the edit shows in a copy taken before it\n";
+    ModelInvariants const invariants(model_);
+    bytes_ = invariants.Bytes();
+    broken += invariants.Broken();
     return broken.empty() ? "" : broken + "after the script\n" + script_;
   }
 
@@ -132,7 +134,7 @@ class LivingModel {
 
  private:
   EditedModel model_;
-  std::vector<std::uint8_t> bytes_ = ModelInvariants::Bytes(model_);
+  std::vector<std::uint8_t> bytes_ = ModelInvariants(model_).Bytes();
   std::string script_;
   std::ostringstream printed_;
   RowPrinter const out_{printed_, true};

@@ -44,6 +44,12 @@ inline kprC_StepHolder StepOf(char procedure) {
     case 'R': return kprC_StepHolder(new PlannedStep(RandomResponse));
     case 'S': return kprC_StepHolder(new PlannedStep(SteadyStateSubspace));
     case 'E': return kprC_StepHolder(new PlannedStep(ExplicitDynamics));
+    case 'b': return kprC_StepHolder(new PlannedStep(Buckle));
+    case 'c': return kprC_StepHolder(new PlannedStep(CoupledThermalElectrochemical));
+    case 'd': return kprC_StepHolder(new PlannedStep(MassDiffusion));
+    case 'h': return kprC_StepHolder(new PlannedStep(EmagTimeHarmonic));
+    case 'u': return kprC_StepHolder(new PlannedStep(SubstructureGenerate));
+    case 'T': return kprC_StepHolder(new PlannedStep(CoupledTempDisplacement));
     default: return kprC_StepHolder(new kprC_StaticStep());
   }
 }

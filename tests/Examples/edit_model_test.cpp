@@ -330,9 +330,10 @@ TEST(EditModelTest, OpensWhatItSavedWithValuesStatusesAndIdentities) {
             "v|NONE|CREATED|TYPE_INVALID|BASE_BUILT_IN|PROPAGATED");
 }
 
-TEST(EditModelTest, OpensEveryGeneralProcedureAsItWasSaved) {
+TEST(EditModelTest, OpensEveryProcedureAsItWasSaved) {
   // A new step takes what it needs and is valid then; not all of them may stand in one model.
   std::string const inc = " initialInc=0.1 minInc=1e-5 maxInc=0.5 ";
+  std::string const sweep = " frequencyRange=\"lower=1,upper=50;lower=50,upper=500,nPoints=5\"";
   std::vector<std::vector<std::string>> const models{
       {"GeostaticStep utol=1" + inc, "SoilsStep utol=1 end=1e-3" + inc, "StaticStep fullyPlastic=Web" + inc,
        "ViscoStep cetol=1e-3 integration=EXPLICIT_ONLY" + inc, "DirectCyclicStep deltmx=1 fatigue=true" + inc,
@@ -348,6 +349,16 @@ TEST(EditModelTest, OpensEveryGeneralProcedureAsItWasSaved) {
       {"FrequencyStep numEigen=3", "SubspaceDynamicsStep incSize=0.1 vectors=3"},
       {"ExplicitDynamicsStep timeIncrementationMethod=AUTOMATIC_EBE", "AnnealStep refTemp=20",
        "TempDisplacementDynamicsStep timeIncrementationMethod=FIXED_EBE"},
+      {"StaticStep" + inc, "StaticLinearPerturbationStep solutionTechnique=LCP_CONTACT gapDistance=0.1",
+       "BuckleStep numEigen=3 vectors=9",
+       "SubstructureGenerateStep substructureIdentifier=7 globalDamping=MECHANICAL modeRange=start=1,end=9"
+       " retainedDofsList=\"region=Top face,dofs=1,2,3;region=Tip,dofs=1\"",
+       "ReducedBasisGenerateStep", "FrequencyStep numEigen=5", "ComplexFrequencyStep frictionDamping=true",
+       "ModalDynamicsStep incSize=0.1", "RandomResponseStep freq=lower=1,upper=50 selectedEigenmodes=1,3",
+       "ResponseSpectrumStep components=spectrum=Site,x=1,timeDuration=20 summation=DSC",
+       "SteadyStateModalStep" + sweep, "SteadyStateSubspaceStep projection=CONSTANT" + sweep,
+       "SteadyStateDirectStep scale=LINEAR" + sweep},
+      {"EmagTimeHarmonicStep" + sweep},
       {"FlowStep energyEquation=TEMPERATURE turbulenceModel=KEPS_RNG advectionFactor=GALERKIN", "FlowStep"},
   };
   std::string const a = scratch + "a";
@@ -365,6 +376,8 @@ TEST(EditModelTest, OpensEveryGeneralProcedureAsItWasSaved) {
     Result const before = RunScript(edits + "save " + a + "\n" + listing);
     EXPECT_EQ(before.status, 0) << before.out;
     EXPECT_EQ(RunScript("open " + a + "\n" + listing).out, before.out);
+    bool const sweeps = edits.ends_with(sweep + "\n");
+    EXPECT_EQ(before.out.find("frequencyRange|upper=50,lower=1,nPoints=20,") != std::string::npos, sweeps) << before.out;
   }
 }
 

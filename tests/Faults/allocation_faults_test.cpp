@@ -48,6 +48,8 @@ class AllocationFaultsTest : public testing::Test {
     }
   }
 
+  static std::vector<std::uint8_t> Bytes(EditedModel const& model) { return dbc_EncodeObject(model.Model()); }
+
   void Run(EditedModel& model, std::string const& line) { Execute({model, out_}, ScriptLine(line)); }
 
   /// Fails the first allocation of `act`, then the second, and so on until it succeeds. How often it failed.
@@ -74,7 +76,7 @@ class AllocationFaultsTest : public testing::Test {
 
 // What fails is an exception. The copy taken before is unchanged, and the half-edited model can be read and let go.
 TEST_F(AllocationFaultsTest, AnEditFailsWholeAtAnyAllocation) {
-  auto const bytes = ModelInvariants::Bytes(model_);
+  auto const bytes = Bytes(model_);
   for (auto* const failAt : {&FailStandardAllocation, &FailFoundationAllocation}) {
     for (char const* line :
          {"create VelocityBC d createStepName=T v1=1", "setInStep boundaryConditions b stepName=T u2=7",
@@ -90,7 +92,7 @@ TEST_F(AllocationFaultsTest, AnEditFailsWholeAtAnyAllocation) {
             Run(edited, line);
           },
           [&] {
-            EXPECT_EQ(ModelInvariants::Bytes(model_), bytes) << line;
+            EXPECT_EQ(Bytes(model_), bytes) << line;
             edited.Repositories();
             for (kprC_StepRepository const* repository : edited.Repositories()) {
               for (cow_String const& key : repository->Keys()) repository->ConstGetObject(key).History();
@@ -103,7 +105,7 @@ TEST_F(AllocationFaultsTest, AnEditFailsWholeAtAnyAllocation) {
 }
 
 TEST_F(AllocationFaultsTest, ASaveThatFailsLeavesTheFileAndTheModel) {
-  auto const bytes = ModelInvariants::Bytes(model_);
+  auto const bytes = Bytes(model_);
   std::string const path = (std::filesystem::temp_directory_path() / "allocation_faults.model").string();
   EditedModel const old;
   old.Save(cow_String(path));
@@ -113,18 +115,18 @@ TEST_F(AllocationFaultsTest, ASaveThatFailsLeavesTheFileAndTheModel) {
         [&] {
           EditedModel read;
           read.Open(cow_String(path));
-          auto const found = ModelInvariants::Bytes(read);
-          EXPECT_TRUE(found == bytes || found == ModelInvariants::Bytes(old));
+          auto const found = Bytes(read);
+          EXPECT_TRUE(found == bytes || found == Bytes(old));
         });
     EXPECT_GT(failures, 0);
-    EXPECT_EQ(ModelInvariants::Bytes(model_), bytes);
+    EXPECT_EQ(Bytes(model_), bytes);
     old.Save(cow_String(path));
   }
   std::filesystem::remove(path);
 }
 
 TEST_F(AllocationFaultsTest, ALoadThatFailsGivesNoModel) {
-  auto const bytes = ModelInvariants::Bytes(model_);
+  auto const bytes = Bytes(model_);
   for (auto* const failAt : {&FailStandardAllocation, &FailFoundationAllocation}) {
     std::unique_ptr<cls_Persistent> read;
     int const failures = FailEach(

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -32,57 +31,6 @@ std::string Refusal(Action action) {
 }
 std::string const noSuchStep = "There is no step by that name";
 std::string const invalidSequence = "Invalid sequence of steps";
-
-/// The rule asked position by position, without anything kept.
-bool Walk(kprC_StepSequencer const& sequence, unsigned int id, int position) {
-  int const answer = sequence.TestAppendable(id, position);
-  return answer < 0 ? Walk(sequence, id, position - 1) : answer == 1;
-}
-
-TEST(StepSequencerTest, AnswersAsTheWalkPositionByPosition) {
-  std::mt19937 random(7);
-  auto const any = [&random](int n) { return static_cast<int>(random() % static_cast<unsigned int>(n)); };
-  Ids const all = kprC_LabelsBitMap::Instance().Ids();
-  int full = 0;
-  for (int run = 0; run < 300; ++run) {
-    kprC_StepSequencer sequence(run % 2 == 0);
-    Ids entries;
-    for (int tries = 0; tries < 60 && entries.Length() < 12; ++tries) {
-      int const length = entries.Length();
-      for (unsigned int const id : all) ASSERT_EQ(sequence.IsAppendable(id), Walk(sequence, id, length)) << run;
-      unsigned int const id = any(5) == 0 ? suppressed : all[any(all.Length())];
-      if (Walk(sequence, id, length)) {
-        sequence.Append(id);
-        entries.Append(id);
-      }
-      if (int const index = any(40); index < entries.Length() && sequence.IsRemovable(index)) {
-        sequence.Remove(index);
-        entries.RemoveIndex(index);
-      }
-      // What was known before a suppressed entry or its removal may be out of date; that is a test of its own.
-      sequence.ClearAppendableCache();
-    }
-    full += entries.Length() == 12 ? 1 : 0;
-    for (int i = 0; i < entries.Length(); ++i) {
-      auto const fits = [&](Ids const& inPlace) {
-        kprC_StepSequencer trial(sequence, i);
-        Ids rest = inPlace;
-        for (int j = i + 1; j < entries.Length(); ++j) rest.Append(entries[j]);
-        for (int j = 0; j < rest.Length(); ++j) {
-          if (!Walk(trial, rest[j], i + j)) return false;
-          trial.Append(rest[j]);
-        }
-        return true;
-      };
-      bool const marker = entries[i] == suppressed;
-      unsigned int const id = all[any(all.Length())];
-      ASSERT_EQ(sequence.IsRemovable(i), marker || i + 1 == entries.Length() || fits({})) << run;
-      ASSERT_EQ(sequence.IsSuppressable(i), marker || fits({suppressed})) << run;
-      ASSERT_EQ(sequence.IsResumable(i, id), !marker || fits({id})) << run;
-    }
-  }
-  EXPECT_GT(full, 100);
-}
 
 TEST(StepSequencerTest, KnowsWhatMayFollow) {
   struct Case {

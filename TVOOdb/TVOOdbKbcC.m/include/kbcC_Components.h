@@ -3,18 +3,33 @@
 #include <array>
 
 #include "kbcC_BC.h"
+#include "kprC_Components.h"
 
-// What the conditions on six components (three translations, three rotations) share. A state lists its components in
-// `Components()`, in the order of translations and rotations; one that has complex values, too, lists these in
-// `ComplexComponents()`.
+// What the conditions share that prescribe components: six (three translations, three rotations), three of a vector, or
+// the one magnitude of a field. A state lists its components in `Components()`, translations before rotations; one that
+// has complex values, too, lists these in `ComplexComponents()`.
 
 /// Refuses a distribution by a discrete field, in those words.
 TVO_API void kbcC_AssertNoDiscreteField(kbcC_BC const& condition, char const* refusal);
 
-/// A state of six components; S is the class that lists them.
+/// A state of components; S is the class that lists them.
 template <class S, class Base>
 class kbcC_ComponentState : public Base {
  public:
+  /// Complex values are taken over whole, whatever the states of the components and of `other`.
+  void Modify(kprC_StepState const& other) override {
+    Base::Modify(other);
+    ForEachComplex([&](auto const component) { Own().*component = static_cast<S const&>(other).*component; });
+  }
+  void Zero() override {
+    Base::Zero();
+    ForEachComplex([this](auto const component) { (Own().*component).Zero(); });
+  }
+  bool IsModified() const override {
+    bool modified = Base::IsModified();
+    ForEachComplex([&](auto const component) { modified = modified || !(Self().*component).IsZero(); });
+    return modified;
+  }
   /// How a component stands in a step of that procedure. A complex value counts where the procedure works with these.
   mdl_PropAttributeStateEnm StateOf(std::size_t i, unsigned int procedure) const {
     if constexpr (requires { S::ComplexComponents(); }) {
@@ -29,19 +44,63 @@ class kbcC_ComponentState : public Base {
     auto const state = StateOf(i, procedure);
     return state == SET || state == PROPAGATED;
   }
-  /// A procedure without magnitudes takes the values away.
+  /// A procedure without magnitudes takes the values away, one without complex values the imaginary parts.
   void ChangeProcedureType(unsigned int procedure) override {
     Base::ChangeProcedureType(procedure);
     if (!this->UseMagnitude(procedure)) {
       for (auto const component : S::Components()) {
-        static_cast<S&>(*this).*component = UNSET;
+        Own().*component = UNSET;
       }
     }
+    ForEachComplex([&](auto const component) {
+      omi_complex& value = Own().*component;
+      if (!this->UseMagnitude(procedure)) {
+        value.Zero();
+      } else if (!this->UseComplex(procedure)) {
+        value = omi_complex(value.ConvertedReal(), 0.0);
+      }
+    });
   }
 
  private:
   S const& Self() const { return static_cast<S const&>(*this); }
+  S& Own() { return static_cast<S&>(*this); }
+  template <class Act>
+  static void ForEachComplex([[maybe_unused]] Act act) {
+    if constexpr (requires { S::ComplexComponents(); }) {
+      for (auto const component : S::ComplexComponents()) {
+        act(component);
+      }
+    }
+  }
 };
+
+/// Refuses a component that is not zero, with that number.
+template <class S>
+void kbcC_AssertZero(S const& state, int error) {
+  for (auto const component : S::Components()) {
+    kbcC_Assert((state.*component).ConstGet() == 0.0, error);
+  }
+}
+
+/// Refuses values in any step of a condition that holds what it finds: 16.
+template <class S>
+void kbcC_AssertHeld(kbcC_BC::Quads const& quads) {
+  for (kbcC_BC::Quad const& quad : quads) {
+    if (quad.state.HasValue() && !quad.IsStepSuppressed()) {
+      kbcC_AssertZero(kprC_CheckedCast<S>(quad.state.ConstGet(), __FILE__, __LINE__), 16);
+    }
+  }
+}
+
+/// Refuses values in the initial step: 6.
+template <class S>
+void kbcC_AssertZeroInitially(kbcC_BC::Quads const& quads) {
+  kbcC_BC::Quad const& initial = quads.First();
+  if (initial.state.HasValue()) {
+    kbcC_AssertZero(kprC_CheckedCast<S>(initial.state.ConstGet(), __FILE__, __LINE__), 6);
+  }
+}
 
 /// Declares a state's six real components and their keys.
 #define KBCC_REAL_COMPONENTS(Class, c1, c2, c3, r1, r2, r3)                        \
@@ -51,83 +110,20 @@ class kbcC_ComponentState : public Base {
   }                                                                                \
   static constexpr std::array<char const*, 6> ComponentKeys() { return {#c1, #c2, #c3, #r1, #r2, #r3}; }
 
-/// Gives the values of a step as the condition's own class of states.
+// Access to the values of a step.
 template <class Base, class S>
-class kbcC_StateAccess : public Base {
- public:
-  S const& ConstGetState(cow_String const& step) const override {
-    return kprC_CheckedCast<S>(Base::ConstGetState(step), __FILE__, __LINE__);
-  }
-};
-
-/// Access to the values of a step by component, for a condition whose states are of class S.
+using kbcC_StateAccess = kprC_StateAccess<Base, S>;
 template <class Base, class S>
-class kbcC_ComponentBC : public kbcC_StateAccess<Base, S> {
- public:
-  using ComponentState = omu_PrimEnum<mdl_PropAttributeStateEnm, 1>;
+using kbcC_ComponentBC = kprC_ComponentAccess<Base, S>;
 
-  /// Drops from all states what a step of that procedure does not know.
-  void ChangeProcedureType(unsigned int procedure) override {
-    this->Unsettle();
-    for (int i = 0; i < this->states.Length(); ++i) {
-      if (this->states.UncheckedConstGet(i).state.HasValue()) {
-        this->states.Get(i).state.Get().ChangeProcedureType(procedure);
-      }
-    }
-  }
-
- protected:
-  static constexpr bool hasComplex = requires { S::ComplexComponents(); };
-  /// What the imaginary part is where a step has none.
-  static constexpr double noImaginaryPart = -1.7976931348623157e308;
-
-  ComponentState GetState(cow_String const& step, std::size_t i) const {
-    return this->ConstGetState(step).StateOf(i, Procedure(step));
-  }
-  double GetReal(cow_String const& step, std::size_t i) const {
-    S const& state = this->ConstGetState(step);
-    if constexpr (hasComplex) {
-      if (state.UseComplex(Procedure(step))) {
-        return Complex(state, i).ConvertedReal();
-      }
-    }
-    return (state.*S::Components()[i]).ConstGet();
-  }
-  double GetImag(cow_String const& step, std::size_t i) const {
-    [[maybe_unused]] S const& state = this->ConstGetState(step);
-    if constexpr (hasComplex) {
-      if (state.UseComplex(Procedure(step))) {
-        return Complex(state, i).ConvertedImag();
-      }
-    }
-    return noImaginaryPart;
-  }
-
- private:
-  static omi_complex const& Complex(S const& state, std::size_t i)
-    requires hasComplex
-  {
-    return state.*S::ComplexComponents()[i];
-  }
-  unsigned int Procedure(cow_String const& step) const {
-    return static_cast<unsigned int>(this->ConstGetStateQuad(step).Procedure());
-  }
-};
-
-/// Declares Get<Name>State, Get<Name>Real and Get<Name>Imag for a component.
-#define KBCC_COMPONENT_GETTERS(Name, index)                                                                  \
-  auto Get##Name##State(cow_String const& stepName) const { return this->GetState(stepName, index); }        \
-  double Get##Name##Real(cow_String const& stepName) const { return this->GetReal(stepName, index); }        \
-  double Get##Name##Imag(cow_String const& stepName) const { return this->GetImag(stepName, index); }
-
-/// The same for all six, and the scripting names of the components and their states.
+/// The getters of all six components, and the scripting names of the components and their states.
 #define KBCC_SIX_COMPONENTS(c1, C1, c2, C2, c3, C3, r1, R1, r2, R2, r3, R3) \
-  KBCC_COMPONENT_GETTERS(C1, 0)                                             \
-  KBCC_COMPONENT_GETTERS(C2, 1)                                             \
-  KBCC_COMPONENT_GETTERS(C3, 2)                                             \
-  KBCC_COMPONENT_GETTERS(R1, 3)                                             \
-  KBCC_COMPONENT_GETTERS(R2, 4)                                             \
-  KBCC_COMPONENT_GETTERS(R3, 5)                                             \
+  KPRC_COMPONENT_GETTERS(C1, 0)                                             \
+  KPRC_COMPONENT_GETTERS(C2, 1)                                             \
+  KPRC_COMPONENT_GETTERS(C3, 2)                                             \
+  KPRC_COMPONENT_GETTERS(R1, 3)                                             \
+  KPRC_COMPONENT_GETTERS(R2, 4)                                             \
+  KPRC_COMPONENT_GETTERS(R3, 5)                                             \
   KPRC_CMD(c1) KPRC_CMD(c2) KPRC_CMD(c3) KPRC_CMD(r1) KPRC_CMD(r2) KPRC_CMD(r3) \
   KPRC_CMD(c1##State) KPRC_CMD(c2##State) KPRC_CMD(c3##State)               \
   KPRC_CMD(r1##State) KPRC_CMD(r2##State) KPRC_CMD(r3##State)
@@ -137,7 +133,7 @@ class kbcC_ComponentBC : public kbcC_StateAccess<Base, S> {
 template <class Base>
 class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValues<Base>, Base> {
   using Values = kbcC_DisplacementValues;
-  using RealComponents = kbcC_ComponentState<Values, Base>;
+  using ComponentValues = kbcC_ComponentState<Values, Base>;
 
  public:
   KBCC_REAL_COMPONENTS(Values, u1, u2, u3, ur1, ur2, ur3)
@@ -145,37 +141,20 @@ class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValu
     return {&Values::cU1, &Values::cU2, &Values::cU3, &Values::cUR1, &Values::cUR2, &Values::cUR3};
   }
 
-  /// Complex values and buckling case are taken over whole, whatever the states of the components and of `other`.
+  /// The buckling case is taken over whole, as the complex values are.
   void Modify(kprC_StepState const& other) override {
-    Base::Modify(other);
-    auto const& edit = static_cast<kbcC_DisplacementValues const&>(other);
-    for (auto const component : ComplexComponents()) {
-      this->*component = edit.*component;
-    }
-    buckleCase = edit.buckleCase;
+    ComponentValues::Modify(other);
+    buckleCase = static_cast<kbcC_DisplacementValues const&>(other).buckleCase;
   }
   void Zero() override {
-    Base::Zero();
-    for (auto const component : ComplexComponents()) {
-      (this->*component).Zero();
-    }
+    ComponentValues::Zero();
     buckleCase = kbcC_BucklingCaseEnm::NOT_APPLICABLE;
   }
   bool IsModified() const override {
     // Callers rely on just this list: cU3 and cUR2 take no part.
-    bool const complex = !cU1.IsZero() || !cU2.IsZero() || !cU1.IsZero() || !cUR1.IsZero() || !cU1.IsZero() || !cUR3.IsZero();
+    bool const complex =
+        !cU1.IsZero() || !cU2.IsZero() || !cU1.IsZero() || !cUR1.IsZero() || !cU1.IsZero() || !cUR3.IsZero();
     return Base::IsModified() || complex || buckleCase != kbcC_BucklingCaseEnm::NOT_APPLICABLE;
-  }
-  void ChangeProcedureType(unsigned int procedure) override {
-    RealComponents::ChangeProcedureType(procedure);
-    for (auto const component : ComplexComponents()) {
-      omi_complex& value = this->*component;
-      if (!this->UseMagnitude(procedure)) {
-        value.Zero();
-      } else if (!this->UseComplex(procedure)) {
-        value = omi_complex(value.ConvertedReal(), 0.0);
-      }
-    }
   }
 
   omi_complex cU1, cU2, cU3, cUR1, cUR2, cUR3;
@@ -192,26 +171,12 @@ class kbcC_HeldDisplacement : public kbcC_ComponentBC<Base, S> {
     }
     Base::AssertValid();
     if (fixed) {
-      for (auto const& quad : this->states) {
-        if (quad.state.HasValue() && !quad.IsStepSuppressed()) {
-          AssertZero(kprC_CheckedCast<S>(quad.state.ConstGet(), __FILE__, __LINE__), 16);
-        }
-      }
+      kbcC_AssertHeld<S>(this->states);
     }
-    auto const& initial = this->states.First();
-    if (initial.state.HasValue()) {
-      AssertZero(kprC_CheckedCast<S>(initial.state.ConstGet(), __FILE__, __LINE__), 6);
-    }
+    kbcC_AssertZeroInitially<S>(this->states);
   }
 
   bool AllowedInFlow() const override { return !fixed && Base::AllowedInFlow(); }
 
   bool fixed = false;
-
- private:
-  static void AssertZero(S const& state, int error) {
-    for (auto const* value : {&state.u1, &state.ur1, &state.u2, &state.ur2, &state.u3, &state.ur3}) {
-      kbcC_Assert(value->ConstGet() == 0.0, error);
-    }
-  }
 };

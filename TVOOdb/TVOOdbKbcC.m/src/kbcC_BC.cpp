@@ -14,8 +14,6 @@ namespace {
 
 using namespace kprC_Procedure;
 
-constexpr kprC_ProcedureSet withoutAmplitude{Buckle,      Frequency, StaticRiks, StaticLinearPerturbation, SubstructureGenerate,
-                                             ComplexFrequency};
 constexpr kprC_ProcedureSet withComplexValues{SteadyStateDirect, EmagTimeHarmonic};
 constexpr kprC_ProcedureSet ofFrequencies{Frequency, ComplexFrequency};
 
@@ -49,7 +47,7 @@ cls_AttributeTable const& kbcC_BCState::Attributes() {
 }
 
 bool kbcC_BCState::UseAmplitude(unsigned int procedure) const {
-  return procedure != 0 && !withoutAmplitude.Contains(procedure);
+  return procedure != 0 && kprC_AmplitudeState::UseAmplitude(procedure);
 }
 bool kbcC_BCState::UseComplex(unsigned int procedure) const { return withComplexValues.Contains(procedure); }
 bool kbcC_BCState::UseMagnitude(unsigned int procedure) const { return !ofFrequencies.Contains(procedure); }
@@ -69,13 +67,7 @@ cls_AttributeTable const& kbcC_BC::Attributes() {
 
 bool kbcC_BC::UseBasename(unsigned int procedure) const { return ofFrequencies.Contains(procedure); }
 
-cls_xoList<rgnC_Region> kbcC_BC::Regions(rgnC_RegionType type) const {
-  cls_xoList<rgnC_Region> regions;
-  if (region.IsOfType(type)) {
-    regions.Append(region);
-  }
-  return regions;
-}
+cls_xoList<rgnC_Region> kbcC_BC::Regions(rgnC_RegionType type) const { return kprC_RegionsOfType(region, type); }
 
 bool kbcC_BC::UsesField(cow_String& field) const {
   bool const uses = distribution == FIELD || distribution == DISCRETE_FIELD;

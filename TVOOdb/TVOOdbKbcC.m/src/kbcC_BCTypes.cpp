@@ -35,11 +35,7 @@ bool kbcC_isOfferedBCTypeforStep(int bcType, int procedure, int product) noexcep
 }
 
 bool kbcC_isValidBCTypeforStep(int bcType, int procedure, int product) {
-  bool const offered = kbcC_isOfferedBCTypeforStep(bcType, procedure, product);
-  if (!offered) {
-    kbcC_BCTypeLabelMap::Instance().ConstGet(static_cast<unsigned int>(bcType));
-  }
-  return offered;
+  return kprC_IsOfferedByLabel(kbcC_Offers, kbcC_BCTypeLabelMap::Instance(), bcType, procedure, product);
 }
 
 bool kbcC_isValidBCTypeforStep(int bcType, int procedure) { return kbcC_isValidBCTypeforStep(bcType, procedure, 0); }

@@ -5,7 +5,7 @@
 
 // The attributes that the states of component conditions have in common, with the ordinals that all of them use.
 
-/// The six components: 0 to 5.
+/// The components, numbered from 0.
 template <class S, class Parent>
 cls_Describe<S, Parent>&& kbcC_WithComponents(cls_Describe<S, Parent>&& describe) {
   for (std::size_t i = 0; i < S::Components().size(); ++i) {
@@ -25,4 +25,10 @@ cls_Describe<S, Parent>&& kbcC_WithDisplacements(cls_Describe<S, Parent>&& descr
       .Complex(15, "cUR2real", "cUR2imag", &S::cUR2)
       .Complex(17, "cUR3real", "cUR3imag", &S::cUR3)
       .Attribute(19, "buckleCase", &S::buckleCase);
+}
+
+/// The complex magnitude of a field.
+template <class S, class Parent>
+cls_Describe<S, Parent>&& kbcC_WithComplexMagnitude(cls_Describe<S, Parent>&& describe, int ordinal = 0) {
+  return std::move(describe).Complex(ordinal, "complexMagReal", "complexMagImag", &S::complexMag);
 }

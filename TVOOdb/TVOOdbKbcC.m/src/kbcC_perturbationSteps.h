@@ -15,6 +15,7 @@ inline constexpr kprC_ProcedureSet ofAcceleration{Buckle,           Frequency,
                                                   SteadyStateDirect, SteadyStateModal,
                                                   ComplexFrequency};
 inline constexpr kprC_ProcedureSet ofBaseMotion{ModalDynamics, RandomResponse, SteadyStateModal, SteadyStateSubspace};
+inline constexpr kprC_ProcedureSet ofSymmetry{ModalDynamics, RandomResponse, SteadyStateModal, ComplexFrequency};
 }  // namespace kbcC_PerturbationSteps
 
 inline bool kbcC_MayStandIn(kprC_ProcedureSet const& procedures, int procedure, bool flag) {

@@ -10,9 +10,11 @@ using Test = kprC_StepTest;
 constexpr std::uint32_t kbcC_known = kprC_Statuses({0, 1, 2, 3, 4, 5, 6, 7, 9, 10, 11, 12});
 
 inline constexpr kprC_StepCheck kbcC_deactivateChecks[] = {
-    {Test::stepIsMember,   3},
-    {Test::sourceActive,   9},
-    {Test::sourceResumed, 64},
+    {Test::stepIsMember,       3},
+    // A step before creation or after deactivation holds no state: there is nothing to deactivate.
+    {Test::sourceHoldsValues, kprC_NothingToDo},
+    {Test::sourceActive,       9},
+    {Test::sourceResumed,     64},
 };
 
 inline constexpr kprC_StepCheck kbcC_resetChecks[] = {

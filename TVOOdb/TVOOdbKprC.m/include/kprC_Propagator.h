@@ -56,6 +56,8 @@ class TVO_API kprC_Propagator {
 
   void PropagateGenAnalysisObject();
   void PropagatePerturbationObject(int creatingIndex);
+  bool HoldsPassedDeactivation(Quad const& quad);
+  void DeactivateForGood();
 
   /// All that a suppressed step must not change for the steps behind it.
   struct Running {

@@ -23,8 +23,6 @@ void kprC_Propagator<Family>::Run() {
 template <class Family>
 void kprC_Propagator<Family>::PropagateGenAnalysisObject() {
   bool deactivationPending = false;
-  bool deactivationHonoured = false;
-  StateHolder pendingState;
   int index = 0;
   for (Quad const& quad : input_) {
     bool const suppressed = quad.IsStepSuppressed();
@@ -32,35 +30,56 @@ void kprC_Propagator<Family>::PropagateGenAnalysisObject() {
     if (created_) {
       EnterStep(quad);
     }
-    if (quad.state.HasValue()) {
+    mdl_PropagationStatusEnm const entered = running_.status;
+    bool const valid = !quad.HasStep() || running_.status == STATUS_NONE || KindOf(quad).valid;
+    bool const passedOn = HoldsPassedDeactivation(quad);
+    bool refused = false;
+    if (valid && (deactivationPending || passedOn)) {
+      DeactivateForGood();
+      deactivationPending = deactivationPending && suppressed;
+    } else if (passedOn) {
+      refused = true;
+    } else if (quad.state.HasValue()) {
       Modify(quad);
     }
     mdl_PropagationStatusEnm status = RecordedStatus(running_.status);
     if (quad.HasStep() && running_.status != STATUS_NONE && !KindOf(quad).valid) {
       status = GetInvalidStatus(quad.Procedure());
       if (running_.status == STATUS_DEACTIVATED && running_.state.HasValue()) {
-        if (!suppressed) {
-          deactivationPending = true;
-          pendingState = running_.state;
-        }
+        refused = true;
+        running_.status = entered;
         running_.state.Get().deactivate = false;
       }
     }
-    if (deactivationPending && !deactivationHonoured) {
-      if (status == STATUS_INACTIVE) {
-        // The step that deactivated does not take the type, so the next that does holds the deactivation instead.
-        status = running_.status = STATUS_DEACTIVATED;
-        running_.state = pendingState;
-        running_.state.Get().deactivate = true;
-        running_.state.Get().NewUid();
-      }
-      deactivationHonoured = status == STATUS_DEACTIVATED && !suppressed;
-    }
+    // The object stays active beneath the steps that refuse its type, as the next walk will find it.
+    deactivationPending = deactivationPending || (refused && !suppressed);
     Record(index++, status);
     if (before && status != STATUS_CREATED) {
       running_ = *before;
     }
   }
+}
+
+/// In a perturbation step an object is deactivated from the base state, for that step alone. What stands there as
+/// deactivated for good was passed on to it by a general step.
+template <class Family>
+bool kprC_Propagator<Family>::HoldsPassedDeactivation(Quad const& quad) {
+  return created_ && quad.status == STATUS_DEACTIVATED && quad.state.HasValue() && quad.state.ConstGet().deactivate &&
+         quad.HasStep() && KindOf(quad).perturbs && owner_.IsActive(running_.baseStatus);
+}
+
+/// Ends the object's activity in the step that the walk is in and in all behind it.
+template <class Family>
+void kprC_Propagator<Family>::DeactivateForGood() {
+  if (running_.perturbed) {
+    running_.baseStatus = STATUS_DEACTIVATED;
+    running_.state = running_.baseState;
+  }
+  State& state = running_.state.Get();
+  state.deactivate = true;
+  state.NewUid();
+  running_.status = STATUS_DEACTIVATED;
+  differs_ = false;
 }
 
 template <class Family>

@@ -87,7 +87,8 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
   std::unique_ptr<kprC_StepObject> CopiedToStep(cow_String const& step) const override;
   void Suppress(bool byStep, bool keep) override;
   void Resume(bool byStep) override;
-  virtual void ChangeProcedureType(unsigned int) {}
+  /// Drops from all states what a step of that procedure does not know.
+  virtual void ChangeProcedureType(unsigned int procedure);
   /// Tests the type against its create step and derives all steps anew.
   virtual void UpdateStates();
 
@@ -116,15 +117,20 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
   virtual void AssertCreateStep(int procedure) const = 0;
   virtual void AssertMove(Quad const&, Quad const&) const {}
 
+  /// The predicate's answer; a status that it does not know is refused with the family's number.
+  static bool Answer(kprC_StatusPredicate const& predicate, mdl_PropagationStatusEnm status);
   int Find(cow_String const& step) const;
   Object const& Self() const { return static_cast<Object const&>(*this); }
+
+  /// The first quad that holds a state; null if none does.
+  Quad const* CreatingQuad() const;
 
   /// One quad a step of the model, in step order. Whoever writes to it calls Unsettle().
   Quads states;
 
  private:
-  static bool Answer(kprC_StatusPredicate const& predicate, mdl_PropagationStatusEnm status);
-  void AssertChecks(std::span<kprC_StepCheck const> checks, Quad const* source, Quad const* destination) const;
+  /// Whether there is anything to do.
+  bool AssertChecks(std::span<kprC_StepCheck const> checks, Quad const* source, Quad const* destination) const;
   bool Holds(kprC_StepCheck const& check, Quad const* source, Quad const* destination) const;
   void DropStatesBetween(cow_String const& from, cow_String const& to);
   /// Whether there is one quad for each step of the list, with its name and its very procedure object.

@@ -45,11 +45,19 @@ auto kprC_StepDependent<Family>::GetStateQuad(cow_String const& step) -> Quad& {
 }
 
 template <class Family>
-cow_String kprC_StepDependent<Family>::CreateStepName() const {
+auto kprC_StepDependent<Family>::CreatingQuad() const -> Quad const* {
   for (Quad const& quad : states) {
     if (quad.state.HasValue()) {
-      return quad.stepName;
+      return &quad;
     }
+  }
+  return nullptr;
+}
+
+template <class Family>
+cow_String kprC_StepDependent<Family>::CreateStepName() const {
+  if (Quad const* const creating = CreatingQuad()) {
+    return creating->stepName;
   }
   nex_PrimException<cow_String, 3>(cow_String("\"All states are empty\" == 0")).Throw(__FILE__, __LINE__);
 }
@@ -120,6 +128,8 @@ bool kprC_StepDependent<Family>::Holds(kprC_StepCheck const& check, Quad const* 
   switch (check.test) {
     case kprC_StepTest::stepIsMember:
       return source != nullptr;
+    case kprC_StepTest::sourceHoldsValues:
+      return source->state.HasValue() && !source->state.ConstGet().deactivate;
     case kprC_StepTest::objectResumed:
       return suppressionState == RESUMED;
     case kprC_StepTest::sourceNotCreateStep:
@@ -154,13 +164,17 @@ bool kprC_StepDependent<Family>::Holds(kprC_StepCheck const& check, Quad const* 
 }
 
 template <class Family>
-void kprC_StepDependent<Family>::AssertChecks(std::span<kprC_StepCheck const> checks, Quad const* source,
+bool kprC_StepDependent<Family>::AssertChecks(std::span<kprC_StepCheck const> checks, Quad const* source,
                                               Quad const* destination) const {
   for (kprC_StepCheck const& check : checks) {
     if (!Holds(check, source, destination)) {
+      if (check.error == kprC_NothingToDo) {
+        return false;
+      }
       Family::Assert(false, check.error);
     }
   }
+  return true;
 }
 
 // ---- edits
@@ -210,14 +224,10 @@ bool kprC_StepDependent<Family>::Remove(cow_String const& step) {
 template <class Family>
 void kprC_StepDependent<Family>::Deactivate(cow_String const& step) {
   int const index = Find(step);
-  auto const checks = Family::Rules().deactivate;
   Quad const* const quad = index < 0 ? nullptr : &states.UncheckedConstGet(index);
-  AssertChecks(checks.first(1), quad, nullptr);
-  // A step before creation or after deactivation holds no state: there is nothing to deactivate.
-  if (quad->state.IsNull() || quad->state.ConstGet().deactivate) {
+  if (!AssertChecks(Family::Rules().deactivate, quad, nullptr)) {
     return;
   }
-  AssertChecks(checks.subspan(1), quad, nullptr);
   Unsettle();
   states.Get(index).state.Get().deactivate = true;
   Sync();
@@ -321,6 +331,16 @@ template <class Family>
 void kprC_StepDependent<Family>::Resume(bool byStep) {
   kprC_ResumePropagatingAttribute(byStep, suppressionState);
   Sync();
+}
+
+template <class Family>
+void kprC_StepDependent<Family>::ChangeProcedureType(unsigned int procedure) {
+  Unsettle();
+  for (int i = 0; i < states.Length(); ++i) {
+    if (states.UncheckedConstGet(i).state.HasValue()) {
+      states.Get(i).state.Get().ChangeProcedureType(procedure);
+    }
+  }
 }
 
 template <class Family>

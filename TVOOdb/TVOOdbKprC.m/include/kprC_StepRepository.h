@@ -6,6 +6,9 @@
 #include "kprC_StepObject.h"
 #include "mdl_Extension.h"
 
+/// A list that holds the region if it is of the type that is asked for.
+TVO_API cls_xoList<rgnC_Region> kprC_RegionsOfType(rgnC_Region const& region, rgnC_RegionType type);
+
 /// How many objects of a repository refer to each region.
 class TVO_API kprC_RegionUse {
  public:

@@ -12,6 +12,8 @@
 
 /// A number that stands for "this family has no such test".
 inline constexpr int kprC_NoTest = -1;
+/// The number of a row that refuses nothing: where its test does not hold, the edit is over and nothing changes.
+inline constexpr int kprC_NothingToDo = -2;
 
 /// A set of statuses.
 constexpr std::uint32_t kprC_Statuses(std::initializer_list<int> statuses) {
@@ -31,6 +33,7 @@ struct kprC_StatusPredicate {
 /// What is tested before an edit. "Source" is the step that an edit changes or moves from, "destination" the one it moves to.
 enum class kprC_StepTest : std::uint8_t {
   stepIsMember,            ///< the object knows the source step
+  sourceHoldsValues,       ///< the source holds a state that does not deactivate
   objectResumed,           ///< the object is not suppressed
   sourceNotCreateStep,
   sourceResettable,        ///< the status is none of 0, 3, 5, 6, 7, 10, 13
@@ -84,7 +87,7 @@ struct kprC_StepRules {
   std::uint32_t editable;      ///< statuses of a step in which the object can be edited
   int unknownStatus;           ///< a status outside a predicate's domain
 
-  std::span<kprC_StepCheck const> deactivate;  ///< behind the first, the quad must hold a state to be looked at further
+  std::span<kprC_StepCheck const> deactivate;  ///< stepIsMember before all that look at the step
   std::span<kprC_StepCheck const> reset;
   int replaceCreateStep;
   int moveOntoEdited;          ///< the destination is created, modified or deactivated itself

@@ -52,6 +52,8 @@ class TVO_API kprC_StepState : public cls_Persistent {
 class TVO_API kprC_AmplitudeState : public kprC_StepState {
  public:
   kprC_AmplitudeState* Copy() const override = 0;
+  /// False for the procedures outside time; the initial step is not told apart.
+  bool UseAmplitude(unsigned int procedure) const override;
   /// Takes the amplitude away where the procedure knows none.
   void ChangeProcedureType(unsigned int procedure) override;
 

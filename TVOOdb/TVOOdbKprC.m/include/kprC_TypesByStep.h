@@ -15,11 +15,10 @@
 #include "cow_List.h"
 #include "cow_String.h"
 #include "kprC_Procedures.h"
+#include "uti_TranslationMap.h"
 
 // Which types of step-dependent objects are on offer in which step. A family gives tables, one for each of its menus, and
 // an index over them; menus and the test of a single type are read from these.
-
-class uti_TranslationMap;
 
 /// A set of analysis products (kprC_AnalysisProductEnm, and the 4 beyond it that callers pass too).
 class kprC_ProductSet {
@@ -159,3 +158,15 @@ class kprC_OfferIndex {
 TVO_API cow_List<cow_String> kprC_OfferedLabels(std::span<kprC_TypesByStepRow const> rows,
                                                 uti_TranslationMap const& labels, int procedure, int product,
                                                 TVOBasStringMode mode);
+
+/// Whether an index offers the type in a step of the procedure. A type that has no label is none to ask for: it raises
+/// cow_KeyError.
+template <std::size_t TypeRows>
+bool kprC_IsOfferedByLabel(kprC_OfferIndex<TypeRows> const& index, uti_TranslationMap const& labels, int type,
+                           int procedure, int product) {
+  bool const offered = index.IsOffered(static_cast<unsigned int>(type), static_cast<unsigned int>(procedure), product);
+  if (!offered) {
+    labels.ConstGet(static_cast<unsigned int>(type));
+  }
+  return offered;
+}

@@ -2,7 +2,6 @@
 
 #include "cls_Describe.h"
 #include "cls_Registrar.h"
-#include "kprC_modeChecks.h"
 
 cls_AttributeTable const& kprC_CompositeDampingComponent::Attributes() {
   using Self = kprC_CompositeDampingComponent;
@@ -12,17 +11,10 @@ cls_AttributeTable const& kprC_CompositeDampingComponent::Attributes() {
   return table;
 }
 
-void kprC_CompositeDampingComponent::AssertValid() const {
-  kprC_AssertModes(start, end);
-}
+void kprC_CompositeDampingComponent::AssertValid() const { AssertModes(); }
 
 cls_AttributeTable const& kprC_CompositeDamping::Attributes() {
   using Self = kprC_CompositeDamping;
-  static auto const table =
-      cls_Describe<Self>("kprC_CompositeDamping", 445).Attribute("components", &Self::components);
+  static auto const table = cls_Describe<Self>("kprC_CompositeDamping", 445).Attribute("components", &Self::components);
   return table;
-}
-
-void kprC_CompositeDamping::AssertValid() const {
-  for (kprC_CompositeDampingComponent const& component : components) component.AssertValid();
 }

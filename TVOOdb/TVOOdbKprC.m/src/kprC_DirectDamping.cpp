@@ -3,7 +3,6 @@
 #include "cls_Describe.h"
 #include "cls_Registrar.h"
 #include "kprC_assert.h"
-#include "kprC_modeChecks.h"
 
 cls_AttributeTable const& kprC_DirectDampingComponent::Attributes() {
   using Self = kprC_DirectDampingComponent;
@@ -15,17 +14,12 @@ cls_AttributeTable const& kprC_DirectDampingComponent::Attributes() {
 }
 
 void kprC_DirectDampingComponent::AssertValid() const {
-  kprC_AssertModes(start, end);
+  AssertModes();
   kprC_Assert(fraction >= 0.0, 21);
 }
 
 cls_AttributeTable const& kprC_DirectDamping::Attributes() {
   using Self = kprC_DirectDamping;
-  static auto const table =
-      cls_Describe<Self>("kprC_DirectDamping", 203).Attribute("components", &Self::components);
+  static auto const table = cls_Describe<Self>("kprC_DirectDamping", 203).Attribute("components", &Self::components);
   return table;
-}
-
-void kprC_DirectDamping::AssertValid() const {
-  for (kprC_DirectDampingComponent const& component : components) component.AssertValid();
 }

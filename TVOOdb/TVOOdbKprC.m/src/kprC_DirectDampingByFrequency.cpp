@@ -13,7 +13,7 @@ cls_AttributeTable const& kprC_DirectDampingByFrequencyComponent::Attributes() {
 }
 
 void kprC_DirectDampingByFrequencyComponent::AssertValid() const {
-  kprC_Assert(frequency >= 0.0, 164);
+  AssertFrequency();
   kprC_Assert(fraction >= 0.0, 21);
 }
 
@@ -22,8 +22,4 @@ cls_AttributeTable const& kprC_DirectDampingByFrequency::Attributes() {
   static auto const table =
       cls_Describe<Self>("kprC_DirectDampingByFrequency", 445).Attribute("components", &Self::components);
   return table;
-}
-
-void kprC_DirectDampingByFrequency::AssertValid() const {
-  for (kprC_DirectDampingByFrequencyComponent const& component : components) component.AssertValid();
 }

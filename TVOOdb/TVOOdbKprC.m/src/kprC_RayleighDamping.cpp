@@ -3,7 +3,6 @@
 #include "cls_Describe.h"
 #include "cls_Registrar.h"
 #include "kprC_assert.h"
-#include "kprC_modeChecks.h"
 
 cls_AttributeTable const& kprC_RayleighDampingComponent::Attributes() {
   using Self = kprC_RayleighDampingComponent;
@@ -16,17 +15,12 @@ cls_AttributeTable const& kprC_RayleighDampingComponent::Attributes() {
 }
 
 void kprC_RayleighDampingComponent::AssertValid() const {
-  kprC_AssertModes(start, end);
+  AssertModes();
   kprC_Assert(beta >= 0.0, 22);
 }
 
 cls_AttributeTable const& kprC_RayleighDamping::Attributes() {
   using Self = kprC_RayleighDamping;
-  static auto const table =
-      cls_Describe<Self>("kprC_RayleighDamping", 203).Attribute("components", &Self::components);
+  static auto const table = cls_Describe<Self>("kprC_RayleighDamping", 203).Attribute("components", &Self::components);
   return table;
-}
-
-void kprC_RayleighDamping::AssertValid() const {
-  for (kprC_RayleighDampingComponent const& component : components) component.AssertValid();
 }

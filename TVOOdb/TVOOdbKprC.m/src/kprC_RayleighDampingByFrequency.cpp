@@ -14,7 +14,7 @@ cls_AttributeTable const& kprC_RayleighDampingByFrequencyComponent::Attributes()
 }
 
 void kprC_RayleighDampingByFrequencyComponent::AssertValid() const {
-  kprC_Assert(frequency >= 0.0, 164);
+  AssertFrequency();
   kprC_Assert(beta >= 0.0, 22);
 }
 
@@ -23,8 +23,4 @@ cls_AttributeTable const& kprC_RayleighDampingByFrequency::Attributes() {
   static auto const table =
       cls_Describe<Self>("kprC_RayleighDampingByFrequency", 445).Attribute("components", &Self::components);
   return table;
-}
-
-void kprC_RayleighDampingByFrequency::AssertValid() const {
-  for (kprC_RayleighDampingByFrequencyComponent const& component : components) component.AssertValid();
 }

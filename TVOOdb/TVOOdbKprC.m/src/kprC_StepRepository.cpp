@@ -1,5 +1,13 @@
 #include "kprC_StepRepository.h"
 
+cls_xoList<rgnC_Region> kprC_RegionsOfType(rgnC_Region const& region, rgnC_RegionType type) {
+  cls_xoList<rgnC_Region> regions;
+  if (region.IsOfType(type)) {
+    regions.Append(region);
+  }
+  return regions;
+}
+
 kprC_RegionUse::Count* kprC_RegionUse::Find(rgnC_Region const& region) {
   auto const found = byName_.find(region.name);
   if (found != byName_.end()) {

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "kprC_Procedures.h"
 
 /// The attributes of a class: where the propagating ones stand in its objects, and the others.
 ///
@@ -137,6 +138,13 @@ bool kprC_StepState::IsPropagationOf(kprC_StepState const& before) const {
     }
   }
   return true;
+}
+
+bool kprC_AmplitudeState::UseAmplitude(unsigned int procedure) const {
+  using namespace kprC_Procedure;
+  constexpr kprC_ProcedureSet outsideTime{Buckle, Frequency, StaticRiks, StaticLinearPerturbation, SubstructureGenerate,
+                                          ComplexFrequency};
+  return !outsideTime.Contains(procedure);
 }
 
 void kprC_AmplitudeState::ChangeProcedureType(unsigned int procedure) {

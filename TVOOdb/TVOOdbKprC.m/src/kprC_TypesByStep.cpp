@@ -1,7 +1,5 @@
 #include "kprC_TypesByStep.h"
 
-#include "uti_TranslationMap.h"
-
 cow_List<cow_String> kprC_OfferedLabels(std::span<kprC_TypesByStepRow const> rows, uti_TranslationMap const& labels,
                                         int procedure, int product, TVOBasStringMode mode) {
   cow_List<cow_String> menu;

@@ -111,6 +111,12 @@ class TVO_API cls_AttributeTable {
   std::vector<cls_Attribute const*> identities_;  ///< those of all_ that carry identities
 };
 
+/// All attributes of an object in one text, as a person types them: "lower=1,upper=100".
+TVO_API std::string cls_ValuesText(cls_Persistent const& object);
+/// Takes attributes typed so; a part without a key goes on with the list before it. False, with some of the attributes
+/// set, if a key is unknown or its value has not the form that the attribute expects.
+TVO_API bool cls_SetValuesText(cls_Persistent& object, std::string_view text);
+
 /// A copy that shares nothing with the original but keeps its identities; the caller owns it.
 TVO_API cls_Persistent* cls_DeepCopy(cls_Persistent const& object, cls_DeepCopyContext& context);
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <bit>
+#include <span>
 
 #include "cls_Codec.h"
 
@@ -154,6 +156,11 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
     if (stored == nullptr) {
       return;
     }
+    cls_ReadSession::Shared* const shared = SharedElement(reader, *stored);
+    if (shared != nullptr && TakeKnown(reader, *stored, *shared, list)) {
+      Base::RestoreUid(list, *stored);
+      return;
+    }
     cow_List<T> read(static_cast<int>(stored->count));
     for (std::uint32_t i = 0; i < stored->count; ++i) {
       auto const& words = reader.Session().Database().words;
@@ -166,6 +173,9 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
       } else {
         read.Append(cls_Codec<T>::ReadHolder(inner));
       }
+    }
+    if (shared != nullptr) {
+      shared->holders.emplace_back(&knownListKey, std::make_shared<KnownList>(KnownList{stored, read}));
     }
     static_cast<cow_List<T>&>(list) = std::move(read);
     Base::RestoreUid(list, *stored);
@@ -197,36 +207,95 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
   static std::string Text(List const& list) {
     std::string text;
     for (T const& element : list) {
-      text += text.empty() ? "" : ",";
-      text += cls_Codec<T>::Text(element);
+      text += text.empty() ? "" : (TypedByValues() ? ";" : ",");
+      text += ElementText(element);
     }
     return text;
   }
   static bool SetText(std::string_view text, List& list) {
-    if constexpr (cls_Named<T>) {
-      list.Clear();
-      while (!text.empty()) {
-        std::size_t const comma = text.find(',');
-        T element;
-        element.SetText(text.substr(0, comma));
-        list.Append(element);
-        text = comma == std::string_view::npos ? std::string_view() : text.substr(comma + 1);
+    if (!cls_Named<T> && !TypedByValues()) {
+      return false;
+    }
+    List read;
+    while (!text.empty()) {
+      std::size_t const end = text.find(cls_Named<T> ? ',' : ';');
+      T element;
+      if (!SetElement(element, text.substr(0, end))) {
+        return false;
       }
-      return true;
+      read.Append(element);
+      text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
+    }
+    static_cast<cow_List<T>&>(list) = read;
+    return true;
+  }
+  static constexpr char const* expected =
+      cls_Named<T> ? "names with commas between them" : "objects that scripts make, as key=value,key=value;key=value";
+
+ private:
+  static constexpr bool byValue = std::derived_from<T, cls_Persistent>;
+
+  // Elements that have no name but that scripts make are typed by their values, which takes the comma.
+  static bool TypedByValues() {
+    if constexpr (byValue && !cls_Named<T>) {
+      return !T::Attributes().ScriptingName().IsEmpty();
     } else {
       return false;
     }
   }
-  static constexpr char const* expected = cls_Named<T> ? "names with commas between them" : "no text: objects stand here";
-
- private:
-  static constexpr bool byValue = std::derived_from<T, cls_Persistent>;
+  static std::string ElementText(T const& element) {
+    return TypedByValues() ? cls_ValuesText(ObjectOf(element)) : cls_Codec<T>::Text(element);
+  }
+  static bool SetElement(T& element, std::string_view text) {
+    if constexpr (cls_Named<T>) {
+      element.SetText(text);
+      return true;
+    } else if constexpr (byValue) {
+      return cls_SetValuesText(element, text);
+    } else {
+      return false;
+    }
+  }
   static cls_Persistent const& ObjectOf(T const& element) {
     if constexpr (byValue) {
       return element;
     } else {
       return element.ConstGet();
     }
+  }
+
+  // Lists that shared their elements when they were written share them again, as the repositories of a model share its
+  // steps: those whose first element stands in several places and whose other elements are the same, too.
+  struct KnownList {
+    cls_Collection const* stored;
+    cow_List<T> list;
+  };
+  static constexpr char knownListKey = 0;
+
+  static cls_ReadSession::Shared* SharedElement(cls_ReadVisitor const& reader, cls_Collection const& stored) {
+    if (!byValue || stored.count == 0) {
+      return nullptr;
+    }
+    auto const& words = reader.Session().Database().words;
+    cls_ReadVisitor const first =
+        reader.EnterRow(words[stored.first], words[stored.first + 1], cls_Codec<T>::DeclaredTypeId());
+    return reader.Session().FindShared(first.Table(), first.Row());
+  }
+  static bool TakeKnown(cls_ReadVisitor const& reader, cls_Collection const& stored,
+                        cls_ReadSession::Shared const& shared, List& list) {
+    auto const elements = [&words = reader.Session().Database().words](cls_Collection const& of) {
+      return std::span(words).subspan(of.first, std::size_t{2} * of.count);
+    };
+    for (auto const& [key, holder] : shared.holders) {
+      if (key == &knownListKey) {
+        auto const& known = *static_cast<KnownList const*>(holder.get());
+        if (std::ranges::equal(elements(*known.stored), elements(stored))) {
+          static_cast<cow_List<T>&>(list) = known.list;
+          return true;
+        }
+      }
+    }
+    return false;
   }
 };
 

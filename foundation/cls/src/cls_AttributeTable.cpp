@@ -25,6 +25,36 @@ bool cls_EqualValues(cls_Persistent const& a, cls_Persistent const& b) {
   return &a == &b || (&attributes == &b.DynAttributes() && attributes.Equal(a, b));
 }
 
+std::string cls_ValuesText(cls_Persistent const& object) {
+  std::string text;
+  for (cls_Attribute const* attribute : object.DynAttributes().All()) {
+    text += text.empty() ? "" : ",";
+    text += attribute->declared.field.name.View();
+    text += "=" + attribute->Text(object);
+  }
+  return text;
+}
+
+bool cls_SetValuesText(cls_Persistent& object, std::string_view text) {
+  while (!text.empty()) {
+    std::size_t const equals = text.find('=');
+    if (equals == std::string_view::npos) {
+      return false;
+    }
+    // The value ends before the next key, which stands between a comma and an equals sign.
+    std::size_t const nextEquals = text.find('=', equals + 1);
+    std::size_t const comma = nextEquals == std::string_view::npos ? nextEquals : text.rfind(',', nextEquals);
+    bool const last = comma == std::string_view::npos || comma < equals;
+    cls_Attribute const* const attribute = object.DynAttributes().Find(text.substr(0, equals));
+    std::string_view const value = text.substr(equals + 1, last ? std::string_view::npos : comma - equals - 1);
+    if (attribute == nullptr || !attribute->SetText(object, value)) {
+      return false;
+    }
+    text = last ? std::string_view() : text.substr(comma + 1);
+  }
+  return true;
+}
+
 void cls_ReadLevels(cls_Persistent& object, cls_ReadVisitor const& reader) {
   cls_ReadSession& session = reader.Session();
   if (session.depth >= cls_ReadSession::maxDepth) {
