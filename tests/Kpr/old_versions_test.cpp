@@ -359,6 +359,7 @@ TEST_F(OldVersionsTest, ARenamedTableGoesByItsChainAndFailsInTheGivenWords) {
   cls_ClassRegistrar::Present().DeleteClass("kprC_StaticStep", Id("kprC_StaticStep"));
   EXPECT_EQ(refusal([&] { dbc_DatabaseConverter(database_).Run(); }),
             "rename_kprC_Static failed: outputTable can't be NULL at TVOOdb/TVOOdbKprC.m/src/kprC_StaticSC");
+  kprC_StaticStep::InitializeMetadata(cls_ClassRegistrar::Present());
 }
 
 // Nothing is done to tables of today: no function runs, and the cells stay where they are.
