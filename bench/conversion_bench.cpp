@@ -1,5 +1,5 @@
-// What does opening a model of the first revision cost, beside opening the same model as it is saved today? 1,000 steps and
-// 10,000 boundary conditions, created in the last of the steps: each has a state quad for every step all the same.
+// What does opening a model of the first revision cost, beside opening the same model as it is saved today? 1,000 steps
+// and 10,000 boundary conditions, created in the last of the steps: each has a state quad for every step all the same.
 
 #include "../tests/OldModel.h"
 #include "BenchModel.h"

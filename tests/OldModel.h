@@ -27,7 +27,9 @@ class OldTable {
   std::vector<double>& Doubles(std::string_view field) const {
     return table_->columns[static_cast<std::size_t>(table_->FindColumn(field))].doubles;
   }
-  std::string Text(std::string_view field, std::uint32_t row) const { return database_.String(Words(field)[row]).CStr(); }
+  std::string Text(std::string_view field, std::uint32_t row) const {
+    return database_.String(Words(field)[row]).CStr();
+  }
   void SetText(std::string_view field, std::uint32_t row, std::string_view text) const {
     Words(field)[row] = database_.StringNumber(text);
   }
@@ -94,6 +96,12 @@ class OldModel {
     if (revision_ < 207) GiveFormerNames();
   }
 
+  /// The class that a step of that class was a procedure of, 0 if there was none.
+  static unsigned int FormerProcedure(unsigned int stepId) {
+    std::string const step = typ_ArchCompTable::GetName(stepId);
+    bool const turned = step == "kprC_TempDisplacementDynamicsStep";
+    return Id(turned ? "kprC_DynamicTempDisplacement" : step.substr(0, step.size() - std::string_view("Step").size()));
+  }
   std::vector<std::uint8_t> File() const { return dbc_EncodeDatabase(database, revision_); }
 
   cls_Database database;
@@ -136,7 +144,9 @@ class OldModel {
       if (revision_ < 1044) table.Drop({"simLinearDynamics"});
       if (revision_ < 1033) {
         std::vector<std::uint32_t> off(table.Rows());
-        for (std::uint32_t row = 0; row < table.Rows(); ++row) off[row] = table.Text("acousticCoupling", row) == "AC_OFF";
+        for (std::uint32_t row = 0; row < table.Rows(); ++row) {
+          off[row] = table.Text("acousticCoupling", row) == "AC_OFF";
+        }
         table.Drop({"projectDamping", "acousticRangeFactor", "acousticCoupling"});
         table.Add({{13, "acousticCoupling"}, cls_AttributeType::Int});
         for (std::uint32_t row = 0; row < table.Rows(); ++row) table.Words("acousticCoupling")[row] = 1 - off[row];
@@ -155,7 +165,7 @@ class OldModel {
     });
   }
 
-  /// A step "kprC_XStep" was a procedure "kprC_X" in an analysis step; conditions and lists of steps held the procedure.
+  /// A step "kprC_XStep" was a procedure "kprC_X" in an analysis step; conditions and lists of steps held that.
   void PutProceduresIntoSteps() {
     cls_Table* const steps = database.FindTable(Id("kprC_AnalysisStep"));
     if (steps == nullptr) return;
@@ -163,21 +173,23 @@ class OldModel {
     analysis.Add({{99, "procedure"}, cls_AttributeType::Object, Id("kprC_Procedure")});
     std::map<std::uint32_t, unsigned int> formerIds;
     std::map<std::pair<std::uint32_t, std::uint32_t>, std::uint32_t> analysisRows;
-    for (OldNumbers const& procedure : procedures_) {
-      std::string const former = procedure.name;
-      std::string const step = former == "kprC_DynamicTempDisplacement" ? "kprC_TempDisplacementDynamicsStep" : former + "Step";
-      In(step, [&](OldTable& table) {
-        formerIds[Id(step)] = Id(former);
-        for (std::uint32_t row = 0; row < table.Rows(); ++row) {
-          std::uint32_t const base = table.Words(cls_BaseClassField)[row];
-          analysisRows[{Id(step), row}] = base;
-          analysis.Words("procedure#ClassID")[base] = Id(former);
-          analysis.Words("procedure#OID")[base] = row;
-        }
-        table.Become(Id(former), cow_String(former), 0);
-      });
-      SetVersion(procedure);
+    std::vector<unsigned int> stepIds;
+    for (auto const& table : database.tables) {
+      if (table->parentTypeId == steps->typeId && FormerProcedure(table->typeId) != 0) stepIds.push_back(table->typeId);
     }
+    for (unsigned int const stepId : stepIds) {
+      unsigned int const former = FormerProcedure(stepId);
+      formerIds[stepId] = former;
+      OldTable table(database, *database.FindTable(stepId));
+      for (std::uint32_t row = 0; row < table.Rows(); ++row) {
+        std::uint32_t const base = table.Words(cls_BaseClassField)[row];
+        analysisRows[{stepId, row}] = base;
+        analysis.Words("procedure#ClassID")[base] = former;
+        analysis.Words("procedure#OID")[base] = row;
+      }
+      table.Become(former, typ_ArchCompTable::GetName(former), 0);
+    }
+    for (OldNumbers const& procedure : procedures_) SetVersion(procedure);
     for (auto const& table : database.tables) {
       for (cls_Column& column : table->columns) {
         for (std::uint32_t& word : column.words) {

@@ -4,7 +4,6 @@
 #include <array>
 #include <initializer_list>
 #include <span>
-#include <string_view>
 #include <utility>
 
 #include "dbc_DatabaseConverter.h"
@@ -94,36 +93,50 @@ struct dbc_History {
     for (dbc_OldFamily const& family : families) count += family.versions.count;
     return count;
   }
-  constexpr unsigned int FindId(std::string_view name) const {
+  /// Names differ early, so this is cheaper at compile time than to measure them first.
+  static constexpr bool Same(char const* a, char const* b) {
+    while (*a != '\0' && *a == *b) ++a, ++b;
+    return *a == *b;
+  }
+  /// The identifier of one of the module's types, 0 for a name that it lacks.
+  constexpr unsigned int FindId(char const* name) const {
     for (typ_Row const& row : types) {
-      if (name == row.name) return (moduleId << 16) | static_cast<unsigned int>(row.row);
+      if (Same(name, row.name)) return (moduleId << 16) | static_cast<unsigned int>(row.row);
     }
     return 0;
   }
   constexpr unsigned int IdOf(dbc_OldFamily const& family) const {
     return FindId(*family.storedAs == '\0' ? family.name : family.storedAs);
   }
-  constexpr dbc_OldFamily const* Find(std::string_view name) const {
+  constexpr dbc_OldFamily const* Find(char const* name) const {
     auto const found = std::find_if(families.begin(), families.end(),
-                                    [&](dbc_OldFamily const& each) { return name == each.name; });
+                                    [&](dbc_OldFamily const& each) { return Same(name, each.name); });
     return found == families.end() ? nullptr : &*found;
   }
-  /// Whether all names are types of the module, numbers rise, and links and new names belong to a listed number.
-  constexpr bool IsSound() const {
-    for (dbc_OldFamily const& family : families) {
-      bool const rises = std::is_sorted(family.versions.begin(), family.versions.end(),
-                                        [](auto const& a, auto const& b) { return a.version <= b.version; });
-      if (IdOf(family) == 0 || !rises || family.versions.count == 0) return false;
-    }
-    for (dbc_OldLink const& link : links) {
+
+  /// Whether all families are types of the module and their numbers rise.
+  constexpr bool FamiliesAreSound() const {
+    return std::all_of(families.begin(), families.end(), [&](dbc_OldFamily const& family) {
+      auto const falls = [](dbc_OldNumber const& a, dbc_OldNumber const& b) { return a.version >= b.version; };
+      auto const end = family.versions.end();
+      bool const rises = std::adjacent_find(family.versions.begin(), end, falls) == end;
+      return IdOf(family) != 0 && rises && family.versions.count > 0;
+    });
+  }
+  /// Whether every link starts from a listed number.
+  constexpr bool LinksAreSound() const {
+    return std::all_of(links.begin(), links.end(), [&](dbc_OldLink const& link) {
       dbc_OldFamily const* const family = Find(link.family);
-      if (family == nullptr || std::none_of(family->versions.begin(), family->versions.end(),
-                                            [&](auto const& each) { return each.version == link.version; })) {
-        return false;
-      }
-    }
+      return family != nullptr && std::any_of(family->versions.begin(), family->versions.end(),
+                                              [&](auto const& each) { return each.version == link.version; });
+    });
+  }
+  /// Whether the renamed classes are families that end, and have the identifiers that stand beside their names.
+  constexpr bool RenamedAreSound() const {
     return std::all_of(renamed.begin(), renamed.end(), [&](dbc_RenamedClass const& each) {
-      return Find(each.family) != nullptr && FindId(each.family) == each.oldId && FindId(each.newName) == each.newId;
+      dbc_OldFamily const* const family = Find(each.family);
+      return family != nullptr && family->last == dbc_Removed && FindId(each.family) == each.oldId &&
+             FindId(each.newName) == each.newId;
     });
   }
 };
@@ -172,7 +185,8 @@ TVO_API void dbc_RemoveOldClasses(dbc_History const& history);
 template <dbc_History const& history>
 inline constexpr ddr_ModuleContainer dbc_OldClassesOf = {
     [] {
-      static_assert(history.IsSound());
+      static_assert(history.FamiliesAreSound() && history.LinksAreSound());
+      static_assert(history.RenamedAreSound());
       []<std::size_t... n>(std::index_sequence<n...>) {
         dbc_EnterOldClasses(history, {cow_CountedHld<dbc_OldClassVersion>(new dbc_OldClass<history, n>())...});
       }(std::make_index_sequence<history.Count()>());

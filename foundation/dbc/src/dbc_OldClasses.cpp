@@ -1,5 +1,7 @@
 #include "dbc_OldClasses.h"
 
+#include <string_view>
+
 namespace {
 
 /// A shape while it is followed back from the present.

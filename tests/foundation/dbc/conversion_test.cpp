@@ -10,8 +10,8 @@ namespace {
 std::string journal;
 
 /// The present class's declaration under an old number, without those attributes and with others.
-void Declare(cls_ClassRegistrar& registrar, cls_AttributeTable const& now, int version, std::set<std::string> const& later,
-             std::initializer_list<cls_DeclaredAttribute> others = {}) {
+void Declare(cls_ClassRegistrar& registrar, cls_AttributeTable const& now, int version,
+             std::set<std::string> const& later, std::initializer_list<cls_DeclaredAttribute> others = {}) {
   auto& old = registrar.CreateClassMD(now.Name(), now.TypeId(), version, nullptr,
                                       now.Base() == nullptr ? 1 : now.Base()->TypeId());
   for (auto const& attribute : now.Own()) {
@@ -37,7 +37,9 @@ class smp_Box_100 final : public dbc_OldClassVersion {
     newRow.SetDouble(width, 0.5 * oldRow.GetInt(width));
     dbc_Utils const& utils = dbc_Utils::Instance();
     std::vector<double> sizes;
-    for (float const value : utils.GetAttributeArrayFloatFromInputDatabase(oldRow, "axis")) sizes.push_back(2.0 * value);
+    for (float const value : utils.GetAttributeArrayFloatFromInputDatabase(oldRow, "axis")) {
+      sizes.push_back(2.0 * value);
+    }
     utils.UpdateAttributeArrayDoubleInOutputDatabase(newRow, "sizes", sizes);
     utils.SetNewAttributeArrayStringInOutputDatabase(newRow, "names");
     utils.SetNewAttributeListInOutputDatabase(newRow, "marks");
@@ -55,7 +57,9 @@ class smp_Box_100 final : public dbc_OldClassVersion {
 
 class smp_Box_150 final : public dbc_OldClassVersion {
  public:
-  void InitializeMetadata(cls_ClassRegistrar& registrar) override { Declare(registrar, smp_Box::Attributes(), 150, {}); }
+  void InitializeMetadata(cls_ClassRegistrar& registrar) override {
+    Declare(registrar, smp_Box::Attributes(), 150, {});
+  }
   void SchemaChanges(dbc_DatabaseConverter& converter) override {
     converter.GetConverter(203).Upgrade("smp_Box", smp_Box::TypeId(), 150).BindFinalizeFunction(&Finish);
   }
@@ -75,7 +79,9 @@ class smp_Link_100 final : public dbc_OldClassVersion {
     registrar.CreateClassMD("smp_Link", smp_Link::TypeId(), 100, nullptr, 1);
   }
   void SchemaChanges(dbc_DatabaseConverter&) override {}
-  void ClassesToDelete(dbc_DatabaseConverter& converter) override { converter.DeletedClasses().Prepend(smp_Link::TypeId()); }
+  void ClassesToDelete(dbc_DatabaseConverter& converter) override {
+    converter.DeletedClasses().Prepend(smp_Link::TypeId());
+  }
 };
 
 class ConversionTest : public testing::Test {
