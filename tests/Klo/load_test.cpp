@@ -172,7 +172,7 @@ TEST(LoadTest, RefusesInOrder) {
       {"in a step without the type", "A B:H!", nothing, Deactivated("B"), 9},
       {"in a suppressed step", "A B!", nothing, Deactivated("B"), 74},
       {"twice", "A B", Deactivated("B"), Deactivated("B"), 0},
-      {"a step that deactivates becomes a perturbation", "A B", Deactivated("B"), Replanned("A B:P"), 62},
+      {"a step that deactivates becomes a perturbation, which holds it on", "A B", Deactivated("B"), Replanned("A B:P"), 0},
       {"reset of the creation", "A! B", nothing, Reset("A"), 15},
       {"of a modification", "A B!", Edited("B"), Reset("B"), 67},
       {"in a suppressed step", "A B", Planned(Deactivated("B"), "A B!"), Reset("B"), 75},
