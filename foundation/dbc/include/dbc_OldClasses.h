@@ -108,10 +108,11 @@ struct dbc_History {
   constexpr unsigned int IdOf(dbc_OldFamily const& family) const {
     return FindId(*family.storedAs == '\0' ? family.name : family.storedAs);
   }
-  constexpr dbc_OldFamily const* Find(char const* name) const {
-    auto const found = std::find_if(families.begin(), families.end(),
-                                    [&](dbc_OldFamily const& each) { return Same(name, each.name); });
-    return found == families.end() ? nullptr : &*found;
+  /// The place of a family, the number of families for a name that is none.
+  constexpr std::size_t Find(char const* name) const {
+    std::size_t place = 0;
+    while (place < families.size() && !Same(name, families[place].name)) ++place;
+    return place;
   }
 
   /// Whether all families are types of the module and their numbers rise.
@@ -126,16 +127,18 @@ struct dbc_History {
   /// Whether every link starts from a listed number.
   constexpr bool LinksAreSound() const {
     return std::all_of(links.begin(), links.end(), [&](dbc_OldLink const& link) {
-      dbc_OldFamily const* const family = Find(link.family);
-      return family != nullptr && std::any_of(family->versions.begin(), family->versions.end(),
-                                              [&](auto const& each) { return each.version == link.version; });
+      std::size_t const place = Find(link.family);
+      if (place == families.size()) return false;
+      dbc_OldNumbers const& versions = families[place].versions;
+      return std::any_of(versions.begin(), versions.end(),
+                         [&](dbc_OldNumber const& each) { return each.version == link.version; });
     });
   }
   /// Whether the renamed classes are families that end, and have the identifiers that stand beside their names.
   constexpr bool RenamedAreSound() const {
     return std::all_of(renamed.begin(), renamed.end(), [&](dbc_RenamedClass const& each) {
-      dbc_OldFamily const* const family = Find(each.family);
-      return family != nullptr && family->last == dbc_Removed && FindId(each.family) == each.oldId &&
+      std::size_t const place = Find(each.family);
+      return place < families.size() && families[place].last == dbc_Removed && FindId(each.family) == each.oldId &&
              FindId(each.newName) == each.newId;
     });
   }

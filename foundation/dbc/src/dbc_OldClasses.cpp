@@ -36,9 +36,9 @@ Shape LastShape(dbc_History const& history, dbc_OldFamily const& family) {
   if (renamed == nullptr) {
     return ShapeOf(cls_ClassRegistrar::Present().Find(history.IdOf(family)));
   }
-  dbc_OldFamily const* const successor = history.Find(renamed->newName);
-  Shape shape = successor == nullptr ? ShapeOf(cls_ClassRegistrar::Present().Find(renamed->newId))
-                                     : ShapeAt(history, *successor, 0);
+  std::size_t const successor = history.Find(renamed->newName);
+  Shape shape = successor == history.families.size() ? ShapeOf(cls_ClassRegistrar::Present().Find(renamed->newId))
+                                                     : ShapeAt(history, history.families[successor], 0);
   shape.base = 0;
   return shape;
 }
