@@ -25,6 +25,10 @@ void* operator new(std::size_t size) {
   if (void* const block = std::malloc(size == 0 ? 1 : size)) return block;
   throw std::bad_alloc();
 }
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
+  bool const fails = standardAllocationsLeft >= 0 && standardAllocationsLeft-- == 0;
+  return fails ? nullptr : std::malloc(size == 0 ? 1 : size);
+}
 void operator delete(void* block) noexcept { std::free(block); }
 void operator delete(void* block, std::size_t) noexcept { std::free(block); }
 

@@ -237,7 +237,8 @@ struct cls_Codec<cow_COW<T, Policy>> {
       inner.Refuse("an object holds itself");
     }
     shared->reading = true;
-    auto holder = std::make_shared<Holder>(Construct(inner));
+    Holder constructed(Construct(inner));  // owned before anything else is allocated
+    auto holder = std::make_shared<Holder>(std::move(constructed));
     shared->holders.emplace_back(&holderType, holder);
     shared->reading = false;
     return *holder;

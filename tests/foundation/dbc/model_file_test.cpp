@@ -28,6 +28,7 @@ std::size_t largestAllocation = 0;
   }
   throw std::bad_alloc();
 }
+[[gnu::noinline]] void* operator new(std::size_t size, std::nothrow_t const&) noexcept { return std::malloc(size); }
 [[gnu::noinline]] void operator delete(void* block) noexcept { std::free(block); }
 [[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept { std::free(block); }
 
