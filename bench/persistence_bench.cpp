@@ -153,6 +153,27 @@ void BM_LoadBySqlite(benchmark::State& state) {
 }
 GOAL(BM_LoadBySqlite, "load_sqlite/baseline");
 
+// The rows alone: tables to a file and back, on both sides without the objects that the tables are made of.
+
+void BM_SaveRows(benchmark::State& state) {
+  Rows();
+  for (auto _ : state) {
+    dbc_SaveDatabase(Rows(), dbc_SchemaRevision, cow_String(modelFile));
+  }
+}
+GOAL(BM_SaveRows, "save_rows/ours");
+GOAL(BM_SaveBySqlite, "save_rows/baseline");
+
+void BM_LoadRows(benchmark::State& state) {
+  dbc_SaveDatabase(Rows(), dbc_SchemaRevision, cow_String(modelFile));
+  for (auto _ : state) {
+    cls_Database const loaded = dbc_OpenDatabase(cow_String(modelFile));
+    benchmark::DoNotOptimize(loaded.tables.data());
+  }
+}
+GOAL(BM_LoadRows, "load_rows/ours");
+GOAL(BM_LoadBySqlite, "load_rows/baseline");
+
 #endif
 
 // ---- a binary archive: the same objects, field by field

@@ -28,6 +28,8 @@ GOALS = [
     ("repository_copy", "copy a repository, growth in objects", "growth", 0.1),
     ("save_sqlite", "save the model, against SQLite", "speedup", 10.0),
     ("load_sqlite", "load the model, against SQLite", "speedup", 10.0),
+    ("save_rows", "save the rows alone, against SQLite", "speedup", 10.0),
+    ("load_rows", "load the rows alone, against SQLite", "speedup", 10.0),
     ("save_archive", "save the model, against a binary archive", "ratio", 2.0),
     ("load_archive", "load the model, against a binary archive", "ratio", 2.0),
     ("file_size", "size of the file, against a binary archive", "size", 1.5),

@@ -124,6 +124,41 @@ suppress steps F
   EXPECT_EQ(Printed(edits + listing), expected + Printed(script + listing));
 }
 
+TEST(LoadEditsTest, RefusesMovesBetweenStepsOfOtherProcedures) {
+  struct {
+    char const* script;
+    char const* words;
+  } const cases[] = {
+      {R"(step X ExplicitDynamicsStep after=Initial
+step Y AnnealStep after=X
+create ConcentratedForce x createStepName=X c1=1
+move loads x fromStepName=X toStepName=Y
+)", "line 4: refused: Cannot move a load into an Anneal step.\n"},
+      {R"(step X ExplicitDynamicsStep after=Initial
+step Y ExplicitDynamicsStep after=X
+create ConcentratedForce x createStepName=Y c1=1
+suppress steps Y
+move loads x fromStepName=Y toStepName=X
+)", "line 5: refused: Loads cannot be moved if created in a suppressed step.\n"},
+      {R"(step F FlowStep after=Initial initialInc=0.1
+step G FlowStep after=F initialInc=0.1
+create BodyForce x createStepName=F c1=1
+move loads x fromStepName=F toStepName=G
+)", "line 4: refused: Cannot move this load. Flow step is no longer supported. \n"},
+      {R"(step F StaticStep after=Initial initialInc=0.1 minInc=1e-5 maxInc=1
+step G CoupledTempDisplacementStep after=F initialInc=0.1 minInc=1e-5 maxInc=1 deltmx=1
+create SurfaceHeatFlux x createStepName=G magnitude=1
+create ConcentratedForce y createStepName=F c1=1
+move loads x fromStepName=G toStepName=F
+deactivate loads y stepName=G
+deactivate loads y stepName=G
+move loads y fromStepName=G toStepName=F
+)", "line 5: refused: The specified type of load cannot be moved to this type of step.\n"
+        "line 7: refused: Load is not active.\nline 8: refused: Load to be moved must be active.\n"},
+  };
+  for (auto const& [script, words] : cases) EXPECT_EQ(Printed(script), words);
+}
+
 TEST(LoadEditsTest, OffersLoadsBesideConditionsAndOpensWhatItSaved) {
   std::string const offered = Printed(steps + "offered D\n");
   EXPECT_NE(offered.find("mechanical|Concentrated force\n"), std::string::npos);
