@@ -1,9 +1,24 @@
-# header_check: every public header compiles by itself, and included twice. Built on demand.
+# header_check: every public header compiles by itself. Built on demand. A header that its own source includes before
+# anything else has passed that with the library, so only the others are compiled here; unless sources are bundled.
 set(sources "")
 foreach(header IN LISTS public_headers)
+  file(STRINGS ${header} guard REGEX "^#pragma once$" LIMIT_COUNT 1)
+  if(NOT guard)
+    message(FATAL_ERROR "${header} lacks #pragma once")
+  endif()
   cmake_path(GET header FILENAME name)
+  cmake_path(GET header STEM stem)
+  cmake_path(GET header PARENT_PATH folder)
+  set(own_source ${folder}/../src/${stem}.cpp)
+  set(first "")
+  if(EXISTS ${own_source} AND NOT TVO_UNITY)
+    file(STRINGS ${own_source} first REGEX "^#include" LIMIT_COUNT 1)
+  endif()
+  if(first STREQUAL "#include \"${name}\"")
+    continue()
+  endif()
   set(source ${PROJECT_BINARY_DIR}/header_check/${name}.cpp)
-  file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${name}\"\n#include \"${name}\"\n" @ONLY)
+  file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${name}\"\n" @ONLY)
   list(APPEND sources ${source})
 endforeach()
 

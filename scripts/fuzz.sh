@@ -9,14 +9,16 @@ set -euo pipefail
 
 seconds=${1:?"fuzz.sh SECONDS [RUNS]"}
 runs=${2:--1}
-sanitizers=${FUZZ_SANITIZE:-fuzzer-no-link,address,undefined}
-
 "$root/scripts/install_deps.sh" build test
 
-folder=fuzz_${sanitizers//,/_}
 say "Building the fuzz targets"
-configure "$folder" -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -gline-tables-only" \
-  -DTVO_BUILD_TESTS=OFF -DTVO_BUILD_FUZZ=ON "-DTVO_SANITIZE=$sanitizers"
+if [ -n "${FUZZ_SANITIZE:-}" ]; then
+  folder=fuzz_${FUZZ_SANITIZE//,/_}
+  configure_sanitized "$folder" "$FUZZ_SANITIZE" -DTVO_BUILD_TESTS=OFF
+else
+  folder=sanitize
+  configure_sanitized "$folder" "$sanitizers"
+fi
 build "$folder" open_file_fuzz edit_model_fuzz
 
 mkdir -p "$builds/fuzz_finds"

@@ -7,9 +7,10 @@ for purpose in "$@"; do
   case $purpose in
     build) packages+=(g++ cmake ninja-build) ;;
     test) packages+=(libgtest-dev pkg-config clang libclang-rt-14-dev llvm) ;;
+    tidy) packages+=(clang-tidy) ;;
     bench) packages+=(libbenchmark-dev libsqlite3-dev libboost-serialization-dev python3) ;;
     *)
-      echo "install_deps.sh: no purpose '$purpose'; there are build, test, bench" >&2
+      echo "install_deps.sh: no purpose '$purpose'; there are build, test, tidy, bench" >&2
       exit 2
       ;;
   esac

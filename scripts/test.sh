@@ -22,8 +22,7 @@ say "Release: tests"
 run_tests release
 
 say "AddressSanitizer and UndefinedBehaviorSanitizer: build"
-configure sanitize -DTVO_UNITY=ON -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -gline-tables-only" \
-  -DTVO_BUILD_TESTS=ON -DTVO_SANITIZE=address,undefined
+configure_sanitized sanitize "$sanitizers" -DTVO_BUILD_TESTS=ON
 build sanitize
 
 say "AddressSanitizer and UndefinedBehaviorSanitizer: tests"
