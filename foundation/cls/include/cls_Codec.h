@@ -153,6 +153,9 @@ struct cls_Codec<T> {
   }
   /// Reads the object of a row; one that other places refer to as well is read once and copied.
   static void ReadInto(cls_ReadVisitor const& inner, T& value) {
+    if (inner.StoredTypeId() != T::TypeId()) {
+      inner.Refuse("refers to an object of another kind");
+    }
     cls_ReadSession::Shared* const shared = inner.Session().FindShared(inner.Table(), inner.Row());
     if (shared == nullptr) {
       cls_ReadLevels(value, inner);

@@ -117,10 +117,14 @@ struct cls_CollectionCodec {
     cls_Database& database = writer.Session().Database();
     bool const ofDoubles = Kind == cls_CollectionType::DoubleList;
     std::size_t const first = ofDoubles ? database.doubles.size() : database.words.size();
+    std::size_t const end = first + count * (ofDoubles ? 1 : cls_ElementWords(Kind));
+    if (end >= cls_NoRow || database.collections.size() >= cls_NoRow) {
+      cls_RefuseStored("collections", cls_NoRow, "there are more elements than numbers for them");
+    }
     if (ofDoubles) {
-      database.doubles.resize(first + count);
+      database.doubles.resize(end);
     } else {
-      database.words.resize(first + count * cls_ElementWords(Kind));
+      database.words.resize(end);
     }
     database.collections.push_back(
         {value.Uid().Value(), Kind, static_cast<std::uint32_t>(first), static_cast<std::uint32_t>(count)});
@@ -129,7 +133,9 @@ struct cls_CollectionCodec {
   static std::uint32_t LastNumber(cls_WriteVisitor const& writer) {
     return static_cast<std::uint32_t>(writer.Session().Database().collections.size() - 1);
   }
-  static void RestoreUid(C& value, cls_Collection const& stored) { value.SetStoredUid(cls_Uid::Stored(stored.uid)); }
+  static void RestoreUid(C& value, cls_Collection const& stored) {
+    value.SetStoredUid(stored.uid == 0 ? cls_Uid() : cls_Uid::Stored(stored.uid));
+  }
 };
 
 template <class T, class Tag>
@@ -141,9 +147,10 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
   static void Write(cls_WriteVisitor const& writer, int column, List const& list) {
     std::uint32_t at = Base::Take(writer, list, static_cast<std::size_t>(list.Length()));
     writer.SetWord(column, Base::LastNumber(writer));
+    bool const shared = list.IsShared();
     for (T const& element : list) {
       cls_Persistent const& object = ObjectOf(element);
-      std::uint32_t const row = writer.WriteElement(object, true);
+      std::uint32_t const row = writer.WriteElement(object, shared || IsShared(element));
       cls_Database& database = writer.Session().Database();
       database.words[at] = object.DynTypeId();
       database.words[at + 1] = row;
@@ -174,7 +181,8 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
         read.Append(cls_Codec<T>::ReadHolder(inner));
       }
     }
-    if (shared != nullptr) {
+    // A damaged file may hold thousands of lists that begin alike, of which each would be compared with all.
+    if (shared != nullptr && std::ranges::count(shared->holders, &knownListKey, FirstOf) < mostKnownLists) {
       shared->holders.emplace_back(&knownListKey, std::make_shared<KnownList>(KnownList{stored, read}));
     }
     static_cast<cow_List<T>&>(list) = std::move(read);
@@ -229,8 +237,15 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
     static_cast<cow_List<T>&>(list) = read;
     return true;
   }
-  static constexpr char const* expected =
-      cls_Named<T> ? "names with commas between them" : "objects that scripts make, as key=value,key=value;key=value";
+  // Whether scripts make the elements is found in their class's table, so this is a text only when it is asked for.
+  struct Hint {
+    operator char const*() const {
+      return cls_Named<T>      ? "names with commas between them"
+             : TypedByValues() ? "objects that scripts make, as key=value,key=value;key=value"
+                               : "no text: objects stand here";
+    }
+  };
+  static constexpr Hint expected{};
 
  private:
   static constexpr bool byValue = std::derived_from<T, cls_Persistent>;
@@ -256,6 +271,14 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
       return false;
     }
   }
+  /// Whether the element can be met again in another place.
+  static bool IsShared([[maybe_unused]] T const& element) {
+    if constexpr (byValue) {
+      return false;
+    } else {
+      return !element.Exclusive();
+    }
+  }
   static cls_Persistent const& ObjectOf(T const& element) {
     if constexpr (byValue) {
       return element;
@@ -271,6 +294,8 @@ struct cls_Codec<cls_ObjectList<T, Tag>>
     cow_List<T> list;
   };
   static constexpr char knownListKey = 0;
+  static constexpr std::ptrdiff_t mostKnownLists = 4;
+  static void const* FirstOf(std::pair<void const*, std::shared_ptr<void>> const& holder) { return holder.first; }
 
   static cls_ReadSession::Shared* SharedElement(cls_ReadVisitor const& reader, cls_Collection const& stored) {
     if (!byValue || stored.count == 0) {

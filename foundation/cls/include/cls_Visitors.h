@@ -15,7 +15,20 @@ class cls_Persistent;
 /// One number for each enumeration that a session caches; taken once per instantiation.
 TVO_API int cls_NextCacheIndex();
 
+/// Counts a session's depth of objects in objects while it lives.
+class cls_Deeper {
+ public:
+  explicit cls_Deeper(int& depth) noexcept : depth_(depth) { ++depth_; }
+  ~cls_Deeper() { --depth_; }
+  cls_Deeper(cls_Deeper const&) = delete;
+  cls_Deeper& operator=(cls_Deeper const&) = delete;
+
+ private:
+  int& depth_;
+};
+
 /// What one save knows: the tables of the classes met, and where each object that can be met again was written.
+/// After an exception the session and its database hold half an object and are of no more use.
 class TVO_API cls_WriteSession {
  public:
   explicit cls_WriteSession(cls_Database& database);
@@ -95,8 +108,6 @@ class TVO_API cls_WriteVisitor {
   void SetObject(int column, cls_Persistent const& object, bool shareable) const;
   /// Row of an object written on its own, as an element of a collection.
   std::uint32_t WriteElement(cls_Persistent const& object, bool shareable) const;
-  cls_WriteVisitor const* Outer() const noexcept { return outer_; }
-  int OuterColumn() const noexcept { return column_; }
 
  private:
   friend class cls_AttributeTable;
@@ -117,6 +128,7 @@ class TVO_API cls_WriteVisitor {
 };
 
 /// What one load knows: the database, which rows more than one place refers to, and what became of them.
+/// After an exception the session is of no more use.
 class TVO_API cls_ReadSession {
  public:
   /// Checks all references of the database before anything is read. Damage is refused with the table and the row.

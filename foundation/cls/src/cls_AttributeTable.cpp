@@ -60,10 +60,9 @@ void cls_ReadLevels(cls_Persistent& object, cls_ReadVisitor const& reader) {
   if (session.depth >= cls_ReadSession::maxDepth) {
     reader.Refuse("objects are nested too deeply");
   }
-  ++session.depth;
+  cls_Deeper const deeper(session.depth);
   object.DynAttributes().ReadLevel(object, reader);
   object.SetStoredUid(reader.GetUid());
-  --session.depth;
 }
 
 cls_Attribute::~cls_Attribute() = default;

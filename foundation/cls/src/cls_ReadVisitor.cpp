@@ -183,16 +183,17 @@ cls_ReadVisitor::cls_ReadVisitor(cls_ReadSession& session) : session_(&session) 
 }
 
 cls_ReadVisitor::cls_ReadVisitor(cls_ReadVisitor const& outer, cls_FieldHandle const& key) : session_(outer.session_) {
-  int const column =
-      outer.HasRow() ? outer.table_->FindColumn(std::string(key.name.View()) + cls_ClassIdSuffix) : -1;
-  if (column >= 0) {
-    auto const at = static_cast<std::size_t>(column);
-    unsigned int const classId = outer.table_->columns[at].words[outer.row_];
-    std::uint32_t const row = outer.table_->columns[at + 1].words[outer.row_];
-    if (row != cls_NoRow) {
-      table_ = session_->Database().FindTable(classId);
-      row_ = row;
-    }
+  if (!outer.HasRow()) {
+    return;
+  }
+  std::vector<cls_Column> const& columns = outer.table_->columns;
+  int const column = outer.table_->FindColumn(std::string(key.name.View()) + cls_ClassIdSuffix);
+  auto const at = static_cast<std::size_t>(column);
+  bool const isReference = column >= 0 && at + 1 < columns.size() &&
+                           columns[at].kind == cls_CellKind::ClassId && columns[at + 1].kind == cls_CellKind::RowOfClass;
+  if (isReference && columns[at + 1].words[outer.row_] != cls_NoRow) {
+    table_ = session_->Database().FindTable(columns[at].words[outer.row_]);
+    row_ = columns[at + 1].words[outer.row_];
   }
 }
 

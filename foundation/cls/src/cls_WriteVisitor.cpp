@@ -196,9 +196,8 @@ void cls_WriteVisitor::WriteObject(cls_Persistent const& object) const {
   if (session_->depth >= cls_ReadSession::maxDepth) {
     cls_RefuseStored(attributes.Name().View(), row_, "objects are nested too deeply");
   }
-  ++session_->depth;
+  cls_Deeper const deeper(session_->depth);
   attributes.WriteLevel(object, *this);
-  --session_->depth;
 }
 
 void cls_WriteVisitor::SetObject(int column, cls_Persistent const& object, bool shareable) const {

@@ -234,6 +234,17 @@ class cow_List
     return slots_ == other.slots_ && head_ == other.head_ && length_ == other.length_;
   }
 
+  /// True if another list shares any of the elements.
+  bool IsShared() const noexcept
+  {
+    if (length_ == 0) return false;
+    bool shared = *counter_ > 1;
+    for (int slot = head_ >> shift_; !shared && slot <= (head_ + length_ - 1) >> shift_; ++slot) {
+      shared = slots_[slot]->counter > 1;
+    }
+    return shared;
+  }
+
   /// Element `i` for writing. It must not be used for that any more once the list has been copied.
   T& Get(int i)
   {
