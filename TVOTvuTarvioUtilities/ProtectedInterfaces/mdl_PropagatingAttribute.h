@@ -44,9 +44,9 @@ class TVO_API mdl_PropAttrBase : public cls_Persistent {
   bool IsFree() const noexcept { return state_ == UNSET || state_ == FREED; }
 
   /// Whether the value carries identities besides the attribute's own, as lists do. NewUid() renews all of them,
-  /// NewOwnUid() the attribute's own alone.
+  /// SetOwnUid() the attribute's own alone.
   virtual bool ValueHasIdentity() const = 0;
-  void NewOwnUid() noexcept { uid_.NewUid(); }
+  void SetOwnUid(cls_Uid uid) noexcept { uid_ = uid; }
   /// Clears the value to zero or empty; the state is not touched.
   virtual void Zero() = 0;
   /// Sets the state alone, as scripts do: UNSET only in the create step, FREED only after it; SET gives a value of zero.
@@ -123,7 +123,7 @@ class TVO_API mdl_PropAttr final : public mdl_PropAttrBase {
   void Zero() override { value_ = T(); }
   bool ValueHasIdentity() const override { return valueHasIdentity; }
   void NewUid() override {
-    NewOwnUid();
+    uid_.NewUid();
     if constexpr (valueHasIdentity) {
       cls_Codec<T>::NewUid(value_);
     }

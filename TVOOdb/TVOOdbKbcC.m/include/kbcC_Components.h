@@ -16,11 +16,6 @@ TVO_API void kbcC_AssertNoDiscreteField(kbcC_BC const& condition, char const* re
 template <class S, class Base>
 class kbcC_ComponentState : public Base {
  public:
-  /// Complex values are taken over whole, whatever the states of the components and of `other`.
-  void Modify(kprC_StepState const& other) override {
-    Base::Modify(other);
-    ForEachComplex([&](auto const component) { Own().*component = static_cast<S const&>(other).*component; });
-  }
   void Zero() override {
     Base::Zero();
     ForEachComplex([this](auto const component) { (Own().*component).Zero(); });
@@ -141,11 +136,6 @@ class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValu
     return {&Values::cU1, &Values::cU2, &Values::cU3, &Values::cUR1, &Values::cUR2, &Values::cUR3};
   }
 
-  /// The buckling case is taken over whole, as the complex values are.
-  void Modify(kprC_StepState const& other) override {
-    ComponentValues::Modify(other);
-    buckleCase = static_cast<kbcC_DisplacementValues const&>(other).buckleCase;
-  }
   void Zero() override {
     ComponentValues::Zero();
     buckleCase = kbcC_BucklingCaseEnm::NOT_APPLICABLE;

@@ -7,8 +7,6 @@ class TVO_API kbcC_ConnectorBCState : public kbcC_BCState {
   CLS_ABSTRACT(kbcC, kbcC_ConnectorBCState)
 
  public:
-  /// Which components there are is taken over whole from an edit.
-  void Modify(kprC_StepState const& other) override;
   /// Whether a value is given for a component in a step of that procedure.
   virtual bool Specifies(std::size_t i, unsigned int procedure) const = 0;
   /// Names of the components that are given though the connector has not got them, such as "corm2, corm5".

@@ -8,8 +8,7 @@ class TVO_API kbcC_SubmodelBCState final : public kbcC_BCState {
 
  public:
   kbcC_SubmodelBCState() = default;
-  /// Step and increment of the global model are taken over whole.
-  void Modify(kprC_StepState const& other) override;
+  mdl_PropAttrBase* EditMark() override { return &dof; }
   KPRC_NAMED_CMD(pythonTypeName, "SubmodelBCState")
   KPRC_CMD(globalStep)
   KPRC_CMD(globalIncrement)
@@ -38,7 +37,6 @@ class TVO_API kbcC_SubmodelBC final : public kbcC_StateAccess<kbcC_BC, kbcC_Subm
   bool ValidInPerturbationStep(int, bool) const override { return false; }
   /// Refuses what is given in a step, the initial one included, that does not take the type: 45.
   void AssertValid() const override;
-  bool Insert(cow_String const& step, kbcC_BCState const& state) override;
 
   KPRC_NAMED_CMD(constructorCmd, "SubmodelBC")
   KPRC_CMD(globalDrivingRegion)

@@ -8,8 +8,6 @@ class TVO_API kbcC_TypeBCState final : public kbcC_BCState {
 
  public:
   kbcC_TypeBCState() = default;
-  /// The buckling case is taken over whole.
-  void Modify(kprC_StepState const& other) override;
   /// A type has no magnitude: what is held stays held when a perturbation starts from zero.
   void Zero() override;
   bool IsModified() const override;

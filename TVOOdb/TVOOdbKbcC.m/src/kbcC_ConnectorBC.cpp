@@ -36,13 +36,6 @@ cls_AttributeTable const& kbcC_ConnectorBC::Attributes() {
   return table;
 }
 
-void kbcC_ConnectorBCState::Modify(kprC_StepState const& other) {
-  kbcC_BCState::Modify(other);
-  for (Availability const& row : availabilities) {
-    this->*row.available = static_cast<S const&>(other).*row.available;
-  }
-}
-
 cow_String kbcC_ConnectorBCState::UnavailableComponents(unsigned int procedure) const {
   std::string names;
   for (std::size_t i = 0; i < std::size(availabilities); ++i) {

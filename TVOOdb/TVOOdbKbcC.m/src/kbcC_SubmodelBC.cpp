@@ -27,13 +27,6 @@ cls_AttributeTable const& kbcC_SubmodelBC::Attributes() {
   return table;
 }
 
-void kbcC_SubmodelBCState::Modify(kprC_StepState const& other) {
-  kbcC_BCState::Modify(other);
-  auto const& edit = static_cast<S const&>(other);
-  globalStep = edit.globalStep;
-  globalIncrement = edit.globalIncrement;
-}
-
 void kbcC_SubmodelBC::AssertValid() const {
   if (suppressionState != RESUMED) {
     return;
@@ -45,18 +38,4 @@ void kbcC_SubmodelBC::AssertValid() const {
       kbcC_Assert(ValidInStepButRelaxCheckOnInitial(quad.Procedure(), false), 45);
     }
   }
-}
-
-bool kbcC_SubmodelBC::Insert(cow_String const& step, kbcC_BCState const& state) {
-  auto const* const present = IsMember(step) ? static_cast<S const*>(StateIn(step)) : nullptr;
-  auto const& edit = kprC_CheckedCast<S>(state, __FILE__, __LINE__);
-  if (present == nullptr ||
-      (edit.globalStep == present->globalStep && edit.globalIncrement == present->globalIncrement)) {
-    return kbcC_BC::Insert(step, state);
-  }
-  // Step and increment of the global model do not know where they were given. Where they change, the degrees of freedom
-  // that they drive count as given, so that the edit is told from what is inherited.
-  S given = edit;
-  given.dof.Get();
-  return kbcC_BC::Insert(step, given);
 }

@@ -16,11 +16,6 @@ cls_AttributeTable const& kbcC_TypeBC::Attributes() {
   return table;
 }
 
-void kbcC_TypeBCState::Modify(kprC_StepState const& other) {
-  kbcC_BCState::Modify(other);
-  buckleCase = static_cast<kbcC_TypeBCState const&>(other).buckleCase;
-}
-
 void kbcC_TypeBCState::Zero() {
   kbcC_TypeNameEnm const type = typeName.ConstGet();
   mdl_PropAttributeStateEnm const state = typeName.State();

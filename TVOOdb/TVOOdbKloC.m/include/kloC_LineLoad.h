@@ -8,8 +8,7 @@ class TVO_API kloC_LineLoadState final : public kloC_VectorState {
 
  public:
   kloC_LineLoadState() = default;
-  /// Which components are used is taken over whole from an edit.
-  void Modify(kprC_StepState const& other) override;
+  mdl_PropAttrBase* EditMark() override { return &c1; }
   KPRC_NAMED_CMD(pythonTypeName, "LineLoadState")
 
   bool useC1 = false;

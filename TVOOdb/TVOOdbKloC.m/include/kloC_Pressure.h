@@ -9,8 +9,7 @@ class TVO_API kloC_PressureState : public kloC_LoadState {
 
  public:
   kloC_PressureState() = default;
-  /// Whether the elevations are used is taken over whole from an edit.
-  void Modify(kprC_StepState const& other) override;
+  mdl_PropAttrBase* EditMark() override { return &magnitude; }
   KPRC_NAMED_CMD(pythonTypeName, "PressureState")
 
   KLOC_MAGNITUDE(kloC_PressureState)

@@ -8,8 +8,7 @@ class TVO_API kloC_SubmodelStressBasedState final : public kloC_LoadState {
 
  public:
   kloC_SubmodelStressBasedState() = default;
-  /// Step and increment of the global model are taken over whole from an edit.
-  void Modify(kprC_StepState const& other) override;
+  mdl_PropAttrBase* EditMark() override { return &scale; }
   KPRC_NAMED_CMD(pythonTypeName, "SubmodelStressBasedState")
 
   mdl_PropAttr<bool> fixed;

@@ -15,10 +15,3 @@ cls_AttributeTable const& kloC_LineLoad::Attributes() {
                                 .VariesBy<kloC_LineLoadState>();
   return table;
 }
-
-void kloC_LineLoadState::Modify(kprC_StepState const& other) {
-  kloC_VectorState::Modify(other);
-  auto const& edit = static_cast<kloC_LineLoadState const&>(other);
-  useC1 = edit.useC1;
-  useC3 = edit.useC3;
-}

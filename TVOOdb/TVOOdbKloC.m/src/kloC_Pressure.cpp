@@ -22,11 +22,6 @@ cls_AttributeTable const& kloC_Pressure::Attributes() {
   return table;
 }
 
-void kloC_PressureState::Modify(kprC_StepState const& other) {
-  kloC_LoadState::Modify(other);
-  useHydrostatic = static_cast<kloC_PressureState const&>(other).useHydrostatic;
-}
-
 std::optional<kloC_DistributionEnm> kloC_Pressure::Distribution() const {
   return distType < kloC_PressureDistributionEnm::HYDROSTATIC ? static_cast<kloC_DistributionEnm>(distType)
                                                               : kloC_DistributionEnm::UNIFORM;

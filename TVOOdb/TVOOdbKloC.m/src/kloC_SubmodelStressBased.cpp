@@ -20,10 +20,3 @@ cls_AttributeTable const& kloC_SubmodelStressBased::Attributes() {
           .VariesBy<kloC_SubmodelStressBasedState>();
   return table;
 }
-
-void kloC_SubmodelStressBasedState::Modify(kprC_StepState const& other) {
-  kloC_LoadState::Modify(other);
-  auto const& edit = static_cast<kloC_SubmodelStressBasedState const&>(other);
-  globalStep = edit.globalStep;
-  globalIncrement = edit.globalIncrement;
-}

@@ -77,6 +77,7 @@ class TVO_API kprC_Propagator {
 
   /// What the walk asks of each step that depends on its procedure alone; steps in a row mostly share one.
   struct StepKind {
+    kprC_Step const* step = nullptr;  ///< the last one asked
     int procedure = -1;
     bool perturbs = false;
     bool valid = false;

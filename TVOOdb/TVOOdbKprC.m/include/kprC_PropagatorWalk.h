@@ -141,9 +141,15 @@ void kprC_Propagator<Family>::ApplyTo(Quads& quads) {
 
 template <class Family>
 auto kprC_Propagator<Family>::KindOf(Quad const& quad) -> StepKind const& {
-  int const procedure = quad.Procedure();
-  if (procedure != kind_.procedure) {
-    kind_ = {procedure, quad.Step().Perturbation() || kprC_ProcIsModal(procedure), CheckValidStep(procedure)};
+  kprC_Step const* const step = quad.procedure.GetPtr();
+  if (step == nullptr || step != kind_.step) {
+    kind_.step = step;
+    int const procedure = quad.Procedure();
+    if (procedure != kind_.procedure) {
+      kind_.procedure = procedure;
+      kind_.perturbs = step != nullptr && (step->Perturbation() || kprC_ProcIsModal(procedure));
+      kind_.valid = CheckValidStep(procedure);
+    }
   }
   return kind_;
 }

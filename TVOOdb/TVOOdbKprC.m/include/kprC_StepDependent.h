@@ -137,6 +137,8 @@ class TVO_API kprC_StepDependent : public kprC_StepObject {
   bool StandsOver(StepList const& steps) const;
   /// One quad for each step of the list, with what the quad of that name held.
   void LayOut(StepList const& steps);
+  /// Marks an edit of the step that differs in nothing but plain members from what the step would inherit.
+  void MarkEdit(int index, State& edit) const;
   void Walk();
 
   /// The quads are what a walk over them gives. Kept so that one call does not walk twice; not stored.

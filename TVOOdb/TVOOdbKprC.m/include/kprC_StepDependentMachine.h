@@ -186,6 +186,7 @@ bool kprC_StepDependent<Family>::Insert(cow_String const& step, State const& sta
     // The state may come from another step of this object, or go to several steps.
     typename Quad::StateHolder own(state.Copy());
     own.Get().NewUid();
+    MarkEdit(index, own.Get());
     Unsettle();
     states.Get(index).state = own;
     for (Quad const& quad : states) {
@@ -207,6 +208,23 @@ bool kprC_StepDependent<Family>::Insert(cow_String const& step, State const& sta
   Unsettle();
   states.Append(std::move(quad));
   return true;
+}
+
+template <class Family>
+void kprC_StepDependent<Family>::MarkEdit(int index, State& edit) const {
+  Quad const* const creating = CreatingQuad();
+  bool const behindCreation = creating != nullptr && creating < &states.UncheckedConstGet(index);
+  if (edit.EditMark() == nullptr || edit.IsModified() || !behindCreation) {
+    return;
+  }
+  Quads without = states;
+  without.Resize(index + 1);
+  without.Get(index).state = nullptr;
+  typename Family::Propagator(Self(), without).ApplyTo(without);
+  State const* const inherited = without.Last().state.GetPtr();
+  if (inherited != nullptr && inherited->DynTypeId() == edit.DynTypeId()) {
+    edit.MarkEditOf(*inherited);
+  }
 }
 
 template <class Family>

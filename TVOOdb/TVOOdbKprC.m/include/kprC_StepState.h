@@ -14,8 +14,8 @@ class TVO_API kprC_StepState : public cls_Persistent {
 
   /// Refuses values that no step may hold.
   virtual void AssertValid() const {}
-  /// Lays an edit over this state. `other` must be of this state's class. Of an edit that deactivates, the family's own
-  /// attributes are left out.
+  /// Lays an edit over this state. `other` must be of this state's class. Members that do not know how they came to be in
+  /// a step are taken over whole; of an edit that deactivates, the family's own attributes are left out.
   virtual void Modify(kprC_StepState const& other);
   /// What was given becomes inherited, what was released becomes not given.
   virtual void Propagate();
@@ -24,6 +24,11 @@ class TVO_API kprC_StepState : public cls_Persistent {
   /// Whether this state holds something that the user did in its step.
   virtual bool IsModified() const;
   virtual bool IsConditionModified() const;
+  /// What counts as given where an edit changes nothing but members that do not know how they came to be in a step, so
+  /// that it is told from what is inherited. Null for a state in which such a change alone is no edit.
+  virtual mdl_PropAttrBase* EditMark() { return nullptr; }
+  /// Marks this state as an edit of `present`, a state of the same class, if it differs in such members alone.
+  void MarkEditOf(kprC_StepState const& present);
 
   /// Whether a step of that procedure (0: the initial step) knows amplitudes, complex values, magnitudes.
   virtual bool UseAmplitude(unsigned int procedure) const;
@@ -41,6 +46,7 @@ class TVO_API kprC_StepState : public cls_Persistent {
   struct Members;
   static std::unique_ptr<Members const> FindMembers(kprC_StepState const& state);
   Members const& OwnMembers() const;
+  Members const& KnownMembers() const;
   static mdl_PropAttrBase& At(kprC_StepState& state, std::ptrdiff_t place);
   static mdl_PropAttrBase const& At(kprC_StepState const& state, std::ptrdiff_t place);
 

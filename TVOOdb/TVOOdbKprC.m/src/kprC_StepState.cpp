@@ -9,9 +9,9 @@
 /// All objects of one class have their members at the same places, so the places are found once, on the first object.
 struct kprC_StepState::Members {
   std::vector<std::ptrdiff_t> propagating;
-  std::vector<cls_Attribute const*> plain;
-  std::vector<cls_Attribute const*> identities;   ///< those of the plain ones that carry identities
-  std::vector<std::ptrdiff_t> innerIdentities;    ///< propagating ones whose values carry identities of their own
+  std::vector<cls_Attribute const*> plain;       ///< those that do not know how they came to be in a step
+  std::vector<cls_Attribute const*> identities;  ///< those that are not propagating and carry identities
+  std::vector<std::ptrdiff_t> innerIdentities;   ///< propagating ones whose values carry identities of their own
   std::size_t ofFamily = 0;  ///< how many of the propagating ones the family's own level has; they come first
 };
 
@@ -21,54 +21,59 @@ std::unique_ptr<kprC_StepState::Members const> kprC_StepState::FindMembers(kprC_
   while (root->Base() != nullptr) {
     root = root->Base();
   }
+  std::size_t place = 0;
   for (cls_Attribute const* attribute : state.DynAttributes().All()) {
-    auto const* const embedded = dynamic_cast<mdl_PropAttrBase const*>(attribute->Embedded(state));
-    if (embedded == nullptr) {
-      members->plain.push_back(attribute);
+    bool const isOfFamily = place++ < root->Own().size();
+    if (auto const* const given = dynamic_cast<mdl_PropAttrBase const*>(attribute->Embedded(state))) {
+      members->propagating.push_back(reinterpret_cast<char const*>(given) - reinterpret_cast<char const*>(&state));
+      if (given->ValueHasIdentity()) {
+        members->innerIdentities.push_back(members->propagating.back());
+      }
+      members->ofFamily += isOfFamily ? 1 : 0;
+    } else {
       if (attribute->HasIdentity()) {
         members->identities.push_back(attribute);
       }
-      continue;
-    }
-    members->propagating.push_back(reinterpret_cast<char const*>(embedded) - reinterpret_cast<char const*>(&state));
-    if (embedded->ValueHasIdentity()) {
-      members->innerIdentities.push_back(members->propagating.back());
-    }
-    if (members->propagating.size() + members->plain.size() <= root->Own().size()) {
-      ++members->ofFamily;
+      // The deactivation goes a way of its own.
+      if (attribute->declared.field.name != "deactivate") {
+        members->plain.push_back(attribute);
+      }
     }
   }
   return members;
 }
 
-kprC_StepState::Members const& kprC_StepState::OwnMembers() const {
+kprC_StepState::Members const& kprC_StepState::KnownMembers() const {
   // By the index of the class's attribute table.
   static std::vector<std::unique_ptr<Members const>> known;
-  if (members_ == nullptr) {
-    auto const index = static_cast<std::size_t>(DynAttributes().Index());
-    if (index >= known.size()) {
-      known.resize(index + 1);
-    }
-    if (known[index] == nullptr) {
-      known[index] = FindMembers(*this);
-    }
-    members_ = known[index].get();
+  auto const index = static_cast<std::size_t>(DynAttributes().Index());
+  if (index >= known.size()) {
+    known.resize(index + 1);
   }
+  if (known[index] == nullptr) {
+    known[index] = FindMembers(*this);
+  }
+  members_ = known[index].get();
   return *members_;
 }
 
-mdl_PropAttrBase& kprC_StepState::At(kprC_StepState& state, std::ptrdiff_t place) {
+inline kprC_StepState::Members const& kprC_StepState::OwnMembers() const {
+  return members_ != nullptr ? *members_ : KnownMembers();
+}
+
+inline mdl_PropAttrBase& kprC_StepState::At(kprC_StepState& state, std::ptrdiff_t place) {
   return *reinterpret_cast<mdl_PropAttrBase*>(reinterpret_cast<char*>(&state) + place);
 }
-mdl_PropAttrBase const& kprC_StepState::At(kprC_StepState const& state, std::ptrdiff_t place) {
+inline mdl_PropAttrBase const& kprC_StepState::At(kprC_StepState const& state, std::ptrdiff_t place) {
   return *reinterpret_cast<mdl_PropAttrBase const*>(reinterpret_cast<char const*>(&state) + place);
 }
 
 void kprC_StepState::NewUid() {
   Members const& members = OwnMembers();
-  uid_.NewUid();
+  cls_Uid::Block uids(1 + members.propagating.size());
+  uid_ = uids.Next();
   for (std::ptrdiff_t const place : members.propagating) {
-    At(*this, place).NewOwnUid();
+    At(*this, place).SetOwnUid(uids.Next());
   }
   for (std::ptrdiff_t const place : members.innerIdentities) {
     At(*this, place).NewUid();
@@ -84,6 +89,21 @@ void kprC_StepState::Modify(kprC_StepState const& other) {
   Members const& members = OwnMembers();
   for (std::size_t i = deactivate ? members.ofFamily : 0; i < members.propagating.size(); ++i) {
     At(*this, members.propagating[i]).Modify(At(other, members.propagating[i]));
+  }
+  for (cls_Attribute const* attribute : members.plain) {
+    attribute->Assign(*this, other);
+  }
+}
+
+void kprC_StepState::MarkEditOf(kprC_StepState const& present) {
+  mdl_PropAttrBase* const mark = EditMark();
+  if (mark == nullptr || IsModified()) {
+    return;
+  }
+  for (cls_Attribute const* attribute : OwnMembers().plain) {
+    if (!attribute->Equal(*this, present)) {
+      mark->ForceState(SET);
+    }
   }
 }
 
@@ -123,10 +143,10 @@ bool kprC_StepState::UseMagnitude(unsigned int) const { return true; }
 void kprC_StepState::ChangeProcedureType(unsigned int) {}
 
 bool kprC_StepState::IsPropagationOf(kprC_StepState const& before) const {
-  if (&DynAttributes() != &before.DynAttributes()) {
-    return false;
-  }
   Members const& members = OwnMembers();
+  if (&members != &before.OwnMembers()) {
+    return false;  // another class
+  }
   for (std::ptrdiff_t const place : members.propagating) {
     if (!At(*this, place).IsPropagationOf(At(before, place))) {
       return false;

@@ -36,6 +36,8 @@ class TVO_API cls_Attribute {
   virtual void Write(cls_Persistent const& object, cls_WriteVisitor const& writer) const = 0;
   virtual void Read(cls_Persistent& object, cls_ReadVisitor const& reader) const = 0;
   virtual bool Equal(cls_Persistent const& a, cls_Persistent const& b) const = 0;
+  /// Gives `to` the value that the attribute has in `from`, both objects of the class.
+  virtual void Assign(cls_Persistent& to, cls_Persistent const& from) const = 0;
   virtual bool HasIdentity() const { return false; }
   virtual void NewUid(cls_Persistent&) const {}
   /// Gives the object a copy of its own of what it shares with others.
@@ -91,7 +93,6 @@ class TVO_API cls_AttributeTable {
   int Index() const noexcept { return index_; }
   /// A new table for the class in a database.
   cls_Table& AddTo(cls_Database& database) const;
-  int ColumnCount() const noexcept { return columnCount_; }
 
  protected:
   void Add(std::unique_ptr<cls_Attribute> attribute);
@@ -117,7 +118,7 @@ TVO_API std::string cls_ValuesText(cls_Persistent const& object);
 /// set, if a key is unknown or its value has not the form that the attribute expects.
 TVO_API bool cls_SetValuesText(cls_Persistent& object, std::string_view text);
 
-/// A copy that shares nothing with the original but keeps its identities; the caller owns it.
+/// A copy with the identities of the original; no change of the one shows in the other. The caller owns it.
 TVO_API cls_Persistent* cls_DeepCopy(cls_Persistent const& object, cls_DeepCopyContext& context);
 
 template <class T>

@@ -18,6 +18,7 @@ class cls_MemberAttribute : public cls_Attribute {
     Codec::Read(reader, column, Of(object));
   }
   bool Equal(cls_Persistent const& a, cls_Persistent const& b) const override { return Codec::Equal(Of(a), Of(b)); }
+  void Assign(cls_Persistent& to, cls_Persistent const& from) const override { Of(to) = Of(from); }
   bool HasIdentity() const override { return Codec::hasIdentity; }
   void NewUid(cls_Persistent& object) const override { Codec::NewUid(Of(object)); }
   void Unshare(cls_Persistent& object, cls_DeepCopyContext& context) const override {
@@ -76,6 +77,9 @@ class cls_ComplexPart final : public cls_Attribute {
     Set(object, value);
   }
   bool Equal(cls_Persistent const& a, cls_Persistent const& b) const override { return Value(a) == Value(b); }
+  void Assign(cls_Persistent& to, cls_Persistent const& from) const override {
+    static_cast<C&>(to).*member_ = Of(from);
+  }
   std::string Text(cls_Persistent const& object) const override { return cls_NumberText(Value(object)); }
   bool SetText(cls_Persistent& object, std::string_view text) const override {
     double value = 0.0;

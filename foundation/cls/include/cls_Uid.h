@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "TVOExport.h"
@@ -23,6 +24,17 @@ class TVO_API cls_Uid {
 
   /// The next free number of this process.
   static std::uint64_t AllocateUid() noexcept { return ++last_; }
+
+  /// Identities for the parts of one object, taken at once.
+  class Block {
+   public:
+    explicit Block(std::size_t count) noexcept : next_(last_ + 1) { last_ += count; }
+    /// @pre not called more often than `count` times
+    cls_Uid Next() noexcept { return cls_Uid(next_++); }
+
+   private:
+    std::uint64_t next_;
+  };
 
   /// An identity read from a database. Numbers of this process's origin are not given out again.
   static cls_Uid Stored(std::uint64_t value) noexcept {
