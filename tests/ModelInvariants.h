@@ -27,6 +27,7 @@ class ModelInvariants {
         kprC_StepObject const& object = repository->ConstGetObject(key);
         StatusesFollowTheCreation(key, object);
         ASecondWalkChangesNothing(key, object);
+        WhatTheUserSaidGivesTheSame(key, object);
       }
       SuppressedStepsLeaveNoTrace(*repository);
     }
@@ -100,6 +101,19 @@ class ModelInvariants {
     std::unique_ptr<kprC_StepObject> const again(object.Copy());
     again->ForcedInitialize(steps_);
     for (auto const& step : steps_) SameIn(step.stepName, *again, object, "a second walk changes", key);
+  }
+
+  /// The object as it would be if it were made afresh, with nothing in a step but what was typed there.
+  void WhatTheUserSaidGivesTheSame(cow_String const& key, kprC_StepObject const& object) {
+    if (!IsSettledByOneWalk(object)) return;
+    std::unique_ptr<kprC_StepObject> const rebuilt(object.Copy());
+    for (auto const& step : steps_) {
+      kprC_StepState const* const state = object.StateIn(step.stepName);
+      bool const said = state != nullptr && (state->IsModified() || state->deactivate);
+      if (!said && step.stepName != object.CreateStepName()) rebuilt->ReplaceStep(step.stepName);
+    }
+    rebuilt->ForcedInitialize(steps_);
+    for (auto const& step : steps_) SameIn(step.stepName, *rebuilt, object, "made afresh from its edits, it has", key);
   }
 
   void SameIn(cow_String const& step, kprC_StepObject const& a, kprC_StepObject const& b, std::string const& what,

@@ -97,7 +97,7 @@ class RandomEdits {
     auto const& attributes = table.All();
     for (unsigned count = attributes.empty() ? 0 : 1 + choose_(3); count > 0; --count) {
       auto const& field = attributes[choose_(static_cast<unsigned>(attributes.size()))]->declared.field;
-      if (field.name == "states" || field.name == "deactivate") continue;
+      if (field.name == "states") continue;
       settings += std::string(" ") + field.name.CStr() + '=' +
                   AnyOf({"1", "0", "2.5", "-1", "3", "SET", "UNSET", "FREED", "true", "false", "(default)", "x", "1e300"});
     }
