@@ -4,12 +4,10 @@
 
 namespace {
 
-constexpr int steps = 100;
-
 // ---- one edit of a boundary condition over 100 steps, beside a deep copy of its states
 
 void BM_Edit(benchmark::State& state) {
-  BoundaryConditions conditions = ModelOf(1, StepsOf(steps));
+  BoundaryConditions conditions = ModelOf(1, StepsOf(static_cast<int>(state.range(0))));
   kbcC_BC& condition = conditions.Get("BC-0");
   kbcC_DisplacementBCState edit;
   double value = 0.0;
@@ -18,14 +16,16 @@ void BM_Edit(benchmark::State& state) {
     condition.Insert("Step-1", edit);
   }
 }
-BENCHMARK(BM_Edit)->Name("goal/edit_100_steps/ours");
+BENCHMARK(BM_Edit)->Name("goal/edit_100_steps/ours")->Arg(100);
+BENCHMARK(BM_Edit)->Name("goal/edit_steps/ours")->RangeMultiplier(4)->Range(8, 2048);
 
 void BM_CopyStates(benchmark::State& state) {
+  int const steps = static_cast<int>(state.range(0));
   BoundaryConditions const conditions = ModelOf(1, StepsOf(steps));
   kbcC_BC const& condition = conditions.ConstGet("BC-0");
   for (auto _ : state) {
     std::vector<std::unique_ptr<kbcC_BCState>> copies;
-    copies.reserve(steps);
+    copies.reserve(static_cast<std::size_t>(steps));
     for (kbcC_BC::Quad const& quad : condition.States()) {
       if (quad.state.HasValue()) {
         copies.emplace_back(quad.state.ConstGet().Copy());
@@ -34,7 +34,7 @@ void BM_CopyStates(benchmark::State& state) {
     benchmark::DoNotOptimize(copies);
   }
 }
-BENCHMARK(BM_CopyStates)->Name("goal/edit_100_steps/baseline");
+BENCHMARK(BM_CopyStates)->Name("goal/edit_100_steps/baseline")->Arg(100);
 
 // ---- a step inserted under many objects, beside a deep copy of the repository
 

@@ -54,6 +54,22 @@ void BM_Load(benchmark::State& state) {
   }
 }
 
+/// The same for models from tiny to large.
+void BM_SaveObjects(benchmark::State& state) {
+  BoundaryConditions const model = ModelOf(static_cast<int>(state.range(0)), StepsOf(steps));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(dbc_EncodeObject(model));
+  }
+}
+void BM_LoadObjects(benchmark::State& state) {
+  auto const bytes = dbc_EncodeObject(ModelOf(static_cast<int>(state.range(0)), StepsOf(steps)));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(dbc_DecodeObject(bytes, "model"));
+  }
+}
+BENCHMARK(BM_SaveObjects)->Name("goal/save_objects/ours")->RangeMultiplier(8)->Range(20, 10'240)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_LoadObjects)->Name("goal/load_objects/ours")->RangeMultiplier(8)->Range(20, 10'240)->Unit(benchmark::kMillisecond);
+
 #define GOAL(function, name) \
   BENCHMARK(function)->Name("goal/" name)->Iterations(1)->Repetitions(3)->Unit(benchmark::kMillisecond)
 
