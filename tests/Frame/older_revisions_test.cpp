@@ -6,8 +6,10 @@
 #include "../OldModel.h"
 #include "../StepPlan.h"
 #include "kbcC_ConnDisplacementBC.h"
+#include "dbc_DatabaseConverter.h"
 #include "ddr_Model.h"
 #include "kbcC_DisplacementBC.h"
+#include "kprC_ModelMembers.h"
 #include "kprC_Procedures.h"
 #include "kprC_StepContainer.h"
 
@@ -85,6 +87,11 @@ ddr_Model SampleModel() {
   turn.ur1 = 0.25;
   hinge.Insert("Pull", turn);
   conditions.Insert("Hinge", hinge);
+
+  kprC_TimePoint hits;
+  hits.points.Append({0.5});
+  hits.points.Append({1.0, 2.0, 0.25});
+  Extension<kprC_TimePointContainer>(model, "timePoints").Insert("Hits", hits);
   return model;
 }
 
@@ -105,6 +112,17 @@ class OlderRevisionsTest : public testing::Test {
   static std::string Refused(Bytes const& file) {
     return Refusal([&] { dbc_DecodeObject(file, "old.db"); });
   }
+  /// Why the model of that revision is refused once its tables are changed so.
+  std::string RefusedWith(int revision, auto change) const {
+    OldModel old(model_, revision);
+    change(old.database);
+    std::string const text = Refused(old.File());
+    std::size_t const offset = text.find(" at offset ");
+    return offset == std::string::npos ? text : text.substr(text.find(": ", offset) + 2);
+  }
+  static OldTable Table(cls_Database& database, char const* name) {
+    return {database, *database.FindTable(typ_ArchCompTable::FindId(name))};
+  }
 
   struct LibraryUp {
     LibraryUp() { TVOOdbAttrEO_initialize(depth); }
@@ -117,11 +135,54 @@ class OlderRevisionsTest : public testing::Test {
 
 }  // namespace
 
+// A line a class: its old versions, each with its group and the revision at which it goes on, and where the class went.
+// These numbers stand in databases: lines get longer, and nothing in them changes.
+TEST_F(OlderRevisionsTest, KnowsEveryVersionThatAClassEverHad) {
+  dbc_OldClassRegistrar& registrar = dbc_OldClassRegistrar::Instance();
+  cls_Database none;
+  dbc_DatabaseConverter converter(none);
+  for (auto const& entry : registrar.InOrder()) {
+    entry.version.GetRef().SchemaChanges(converter);
+    entry.version.GetRef().ClassesToDelete(converter);
+    entry.version.GetRef().ClassesToRename(converter);
+  }
+  std::map<std::pair<unsigned int, int>, int> next;
+  for (int revision = 0; revision <= dbc_SchemaRevision; ++revision) {
+    for (auto const& link : converter.GetConverter(revision).Links()) {
+      next[{link->TypeId(), link->OldVersion()}] = revision;
+    }
+  }
+  std::map<std::string, std::string> lines;
+  for (auto const& entry : registrar.InOrder()) {
+    cls_ClassMetadata const& old = *entry.metadata;
+    std::string& line = lines[old.Name().CStr()];
+    line += " | " + std::to_string(old.Version()) + " (" + std::to_string(entry.group) + ")";
+    auto const link = next.find({old.TypeId(), old.Version()});
+    if (link != next.end()) line += " to " + std::to_string(link->second);
+    bool const last = registrar.Versions(old.TypeId()).back() == old.Version();
+    if (last && converter.DeletedClasses().IsMember(old.TypeId())) {
+      cow_String const* const renamed = converter.RenamedClasses().Find(old.Name());
+      line += renamed == nullptr ? " removed" : std::string(" now ") + renamed->CStr();
+    }
+    cls_ClassMetadata const* const present = cls_ClassRegistrar::Present().Find(old.TypeId());
+    if (last && present != nullptr) {
+      EXPECT_EQ(next[std::pair(old.TypeId(), old.Version())], present->Version()) << old.Name().CStr();
+    }
+  }
+  std::string text;
+  for (auto const& [name, line] : lines) text += name + line + "\n";
+  std::ifstream file(TVO_OLD_VERSIONS);
+  EXPECT_EQ(text, std::string(std::istreambuf_iterator<char>(file), {}));
+}
+
 TEST_F(OlderRevisionsTest, AModelOfAnyRevisionOpensAsTheModelOfToday) {
-  auto const expected = WithoutStepIds(model_);
   for (int const revision : revisions) {
     SCOPED_TRACE(revision);
-    auto const opened = dbc_DecodeObject(OldModel(model_, revision).File(), "old.db");
+    // Time points came with 809: an older model does not even have a place for them.
+    ddr_Model model = model_;
+    if (revision < 809) model.extensions.Remove("timePoints");
+    auto const expected = WithoutStepIds(model);
+    auto const opened = dbc_DecodeObject(OldModel(model, revision).File(), "old.db");
     auto const& steps = Extension<kprC_StepContainer>(*opened, "steps");
     ASSERT_EQ(steps.Keys(), Extension<kprC_StepContainer>(model_, "steps").Keys());
     EXPECT_EQ(Refusal([&] { steps.AssertValid(); }), "passes");
@@ -195,45 +256,90 @@ TEST_F(OlderRevisionsTest, OpeningLeavesTheFileAloneUntilItIsSaved) {
 }
 
 TEST_F(OlderRevisionsTest, NamesTheClassAndTheAttributeThatNoChainKnows) {
-  auto const changed = [&](int revision, auto change) {
-    OldModel old(model_, revision);
-    change(old.database);
-    std::string const text = Refused(old.File());
-    return text.substr(text.find(": ", text.find(" at offset ")) + 2);
-  };
-  auto const table = [](cls_Database& database, unsigned int id) {
-    return OldTable(database, *database.FindTable(id));
-  };
-  constexpr unsigned int frequency = kprC_TypeId("kprC_FrequencyStep");
+  char const* const frequency = "kprC_FrequencyStep";
   constexpr unsigned int pair = kprC_TypeId("kprC_StepNameProcedurePair");
-  EXPECT_EQ(changed(858, [&](auto& database) {
-              table(database, frequency).Add({{40, "colour"}, cls_AttributeType::Int});
+  EXPECT_EQ(RefusedWith(858, [&](auto& database) {
+              Table(database, frequency).Add({{40, "colour"}, cls_AttributeType::Int});
             }),
             "class kprC_FrequencyStep has version 858 and an attribute colour that this version does not have");
   // An attribute of a later version, and one in another form.
-  EXPECT_EQ(changed(858, [&](auto& database) {
-              table(database, frequency).Add({{40, "projectDamping"}, cls_AttributeType::Bool});
+  EXPECT_EQ(RefusedWith(858, [&](auto& database) {
+              Table(database, frequency).Add({{40, "projectDamping"}, cls_AttributeType::Bool});
             }),
             "class kprC_FrequencyStep has version 858 and an attribute projectDamping that this version does not have");
-  EXPECT_EQ(changed(831, [&](auto& database) {
-              OldTable steps = table(database, frequency);
+  EXPECT_EQ(RefusedWith(831, [&](auto& database) {
+              OldTable steps = Table(database, frequency);
               steps.Drop({"acousticCoupling"});
               steps.Add({{40, "acousticCoupling"}, cls_AttributeType::Enum});
             }),
             "class kprC_FrequencyStep has version 831 and an attribute acousticCoupling that this version "
             "does not have");
-  EXPECT_EQ(changed(858, [&](auto& database) { table(database, frequency).SetVersion(859); }),
+  EXPECT_EQ(RefusedWith(dbc_SchemaRevision, [&](auto& database) {
+              Table(database, frequency).Add({{40, "colour"}, cls_AttributeType::Int});
+            }),
+            "class kprC_FrequencyStep has version 1346 and an attribute colour that this version does not have");
+  EXPECT_EQ(RefusedWith(858, [&](auto& database) { Table(database, frequency).SetVersion(859); }),
             "class kprC_FrequencyStep has version 859, this release reads version 831, 858, 881, 1033, 1044, 1346");
-  EXPECT_EQ(changed(510, [&](auto& database) { database.AddTable(0x2a00050, "kinC_Bolt", 302, 0); }),
+  EXPECT_EQ(RefusedWith(800, [&](auto& database) { Table(database, "kprC_Static").SetVersion(449); }),
+            "class kprC_Static has version 449, this release reads version 203, 204, 447, 448");
+  EXPECT_EQ(RefusedWith(203, [&](auto& database) {
+              unsigned int const quad = kbcC_TypeId("kprC_PropagatingState<kbcC_BCState>");
+              OldTable steps = Table(database, "kprC_DdbAnalysisStep");
+              steps.Become(kprC_TypeId("kprC_DdbAnalysisStep"), "kprC_DdbAnalysisStep", quad);
+            }),
+            "class kprC_DdbAnalysisStep has version 203 and another base than that version has");
+  EXPECT_EQ(RefusedWith(510, [&](auto& database) { database.AddTable(0x2a00050, "kinC_Bolt", 302, 0); }),
             "class kinC_Bolt has version 302 and identifier " + std::to_string(0x2a00050) +
                 ", which this release does not know");
-  EXPECT_EQ(changed(510, [&](auto& database) {
-              table(database, pair).Become(pair, "kprC_Pair", 0);
+  EXPECT_EQ(RefusedWith(510, [&](auto& database) {
+              Table(database, "kprC_StepNameProcedurePair").Become(pair, "kprC_Pair", 0);
             }),
             "class kprC_Pair has version 203 and identifier " + std::to_string(pair) +
                 ", which this release does not know");
   Bytes const file = dbc_AssembleFile(dbc_SchemaRevision + 1, {});
   EXPECT_NE(Refused(file).find("schema revision 2614, this release reads 2613"), std::string::npos);
+}
+
+TEST_F(OlderRevisionsTest, RefusesAModelThatWouldLoseAStep) {
+  std::string const text = "row 0: the order does not name each step once";
+  auto const steps = [](cls_Database& database, char const* field) -> cls_Collection& {
+    bool const order = field == std::string("order#OID");
+    OldTable const table =
+        Table(database, order ? "kprC_StepContainer" : "mdl_IdRepositoryOfCows<cow_String, kprC_Step>");
+    return database.collections[table.Words(field)[0]];
+  };
+  for (int const revision : {203, 800, 831, dbc_SchemaRevision}) {
+    SCOPED_TRACE(revision);
+    EXPECT_EQ(RefusedWith(revision, [&](auto& database) { --steps(database, "IDToObj#OID").count; }), text);
+    EXPECT_EQ(RefusedWith(revision, [&](auto& database) { --steps(database, "nameToID#OID").count; }), text);
+    EXPECT_EQ(RefusedWith(revision, [&](auto& database) {
+                std::uint32_t* const names = &database.words[steps(database, "order#OID").first];
+                names[1] = names[2];
+              }),
+              text);
+    EXPECT_EQ(RefusedWith(revision, [&](auto& database) {
+                Table(database, "kprC_StepContainer").Words("order#OID") = {cls_NoRow};
+              }),
+              text);
+  }
+  // A step that was of a class which has gone.
+  EXPECT_EQ(RefusedWith(800, [&](auto& database) {
+              unsigned int const connector = typ_ArchCompTable::FindId("kcnC_Connector");
+              database.AddTable(connector, "kcnC_Connector", 203, 0).NewRow(77);
+              cls_Collection const& map = steps(database, "IDToObj#OID");
+              std::uint32_t* const last = &database.words[map.first + 3 * (map.count - 1)];
+              last[1] = connector;
+              last[2] = 0;
+            }),
+            text);
+  EXPECT_EQ(RefusedWith(800, [&](auto& database) { Table(database, "kprC_StepContainer").Drop({"order"}); }), text);
+  EXPECT_EQ(RefusedWith(800, [&](auto& database) {
+              OldTable const analysis = Table(database, "kprC_AnalysisStep");
+              for (char const* const field : {"procedure#ClassID", "procedure#OID"}) {
+                analysis.Words(field)[1] = analysis.Words(field)[0];
+              }
+            }),
+            "row 1: holds a procedure that belongs to another step");
 }
 
 // A class that has gone without a successor: its table is dropped whatever it holds, and so are references to its rows.

@@ -95,7 +95,7 @@ inline constexpr typ_Row kbcC_TypeRows[] = {
   { 83, "kbcC_FluidInletOutletBCState",                   "kbcC_BCState"},
   { 84, "kbcC_FluidWallConditionBC",                      "kbcC_BC"},
   { 85, "kbcC_FluidWallConditionBCState",                 "kbcC_BCState"},
-  { 86, "kbcC_StateQuad",                                 ""},
+  { 86, "kbcC_Retired86",                                 ""},
 };
 static_assert(typ_RowsInOrder(kbcC_TypeRows));
 

@@ -219,7 +219,7 @@ inline constexpr typ_Row kinC_TypeRows[] = {
   {207, "ddr_ShortcutImpl<kinC_ContactPermeability>",     ""},
   {208, "ddr_MemberShortcut<kinC_InteractionProperty, kinC_ContactPermeability, 1>", "ddr_ShortcutImpl<kinC_ContactPermeability>"},
   {209, "kinC_ContactArea",                               ""},
-  {210, "kinC_StateQuad",                                 ""},
+  {210, "kinC_Retired210",                                ""},
   {211, "kinC_Retired211",                                ""},
   {212, "kinC_Retired212",                                ""},
   {213, "kinC_Retired213",                                ""},

@@ -117,7 +117,7 @@ inline constexpr typ_Row kloC_TypeRows[] = {
   {105, "kloC_PropEvolutionRegionEnum",                   ""},
   {106, "ddr_MemberShortcut<ddr_Model, kprC_PropagatingContainer<kloC_Load>, 1>", "ddr_ShortcutImpl<kprC_PropagatingContainer<kloC_Load>>"},
   {107, "mdl_ExtensionWrapper<kprC_PropagatingContainer<kloC_Load>>", "mdl_ExtensionWrapper"},
-  {108, "kloC_StateQuad",                                 ""},
+  {108, "kloC_Retired108",                                ""},
   {109, "kloC_Retired109",                                ""},
   {110, "kloC_Retired110",                                ""},
   {111, "kloC_Retired111",                                ""},

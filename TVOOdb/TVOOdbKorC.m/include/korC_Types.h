@@ -44,7 +44,7 @@ inline constexpr typ_Row korC_TypeRows[] = {
   { 32, "ddr_ShortcutImpl<mdl_MapString2ObjCow<korC_IntegratedOutputSection>>", ""},
   { 33, "ddr_MemberShortcut<ddr_Model, mdl_MapString2ObjCow<korC_IntegratedOutputSection>, 1>", "ddr_ShortcutImpl<mdl_MapString2ObjCow<korC_IntegratedOutputSection>>"},
   { 34, "mdl_ExtensionWrapper<mdl_MapString2ObjCow<korC_IntegratedOutputSection>>", "mdl_ExtensionWrapper"},
-  { 35, "korC_StateQuad",                                 ""},
+  { 35, "korC_Retired35",                                 ""},
   { 36, "korC_Retired36",                                 ""},
   { 37, "korC_Retired37",                                 ""},
   { 38, "korC_Retired38",                                 ""},

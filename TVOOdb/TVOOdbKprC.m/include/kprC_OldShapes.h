@@ -12,13 +12,15 @@ struct TVO_API kprC_PropagatingContainer_203 {
 };
 
 /// Brings the references "procedure" of a table to the steps: procedures were classes of their own until revision 831.
-/// A procedure that no step has is replaced by that of the step "stepName".
+/// The step "stepName" counts, whatever copy of its procedure the row refers to; where the model has no step of that
+/// name the reference keeps its row and gets the new class.
 TVO_API void* kprC_UpgradeProcedures(dbc_Table const& oldTable, dbc_Table& newTable);
 
-/// The links of a family's repository and of its state quad.
+/// The link of a family's repository.
 constexpr dbc_OldLink kprC_OldPropagatingContainer(char const* family) {
   return {.family = family, .version = 203, .row = &kprC_PropagatingContainer_203::Upgrade_203_510, .base = ""};
 }
+/// The link of a family's state quad.
 constexpr dbc_OldLink kprC_OldStateQuad(char const* family) {
   return {.family = family, .version = 203, .finalize = &kprC_UpgradeProcedures};
 }

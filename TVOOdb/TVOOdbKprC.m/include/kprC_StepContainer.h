@@ -78,6 +78,8 @@ class TVO_API kprC_StepContainer final : public mdl_IdRepositoryOfCows<cow_Strin
  private:
   using Base = mdl_IdRepositoryOfCows<cow_String, kprC_Step>;
 
+  /// Whether the order names each step once, and all names and steps stand in it.
+  bool OrderIsSound() const;
   template <class Visit>
   void VisitActiveSteps(Visit visit) const;
   template <class Setting>

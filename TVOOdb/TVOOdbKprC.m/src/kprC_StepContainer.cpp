@@ -1,5 +1,6 @@
 #include "kprC_StepContainer.h"
 
+#include <set>
 #include <utility>
 
 #include "kprC_FlowStep.h"
@@ -27,7 +28,7 @@ class StepDump final : public cls_Persistent {
  public:
   StepDump() = default;
 
-  mdl_MapString2ObjCow<kprC_Step> steps;
+  mdl_CowsByName<kprC_Step> steps;
   cls_xpListString order;
 };
 
@@ -52,9 +53,37 @@ void NoteInsertion(cow_String const& name, cow_List<cow_String> const& order) {
 }  // namespace
 
 cls_AttributeTable const& kprC_StepContainer::Attributes() {
-  static auto const table =
-      cls_Describe<kprC_StepContainer, Base>("kprC_StepContainer", 831).Attribute("order", &kprC_StepContainer::order_);
+  using Member = cls_MemberAttribute<kprC_StepContainer, cls_xpListString>;
+  /// The order goes with the steps: it is not typed, and a row in which the two disagree is damaged.
+  class Order final : public Member {
+   public:
+    using Member::Member;
+    void Read(cls_Persistent& object, cls_ReadVisitor const& reader) const override {
+      Member::Read(object, reader);
+      if (!static_cast<kprC_StepContainer const&>(object).OrderIsSound()) {
+        reader.Refuse("the order does not name each step once");
+      }
+    }
+    bool SetText(cls_Persistent&, std::string_view) const override { return false; }
+    char const* Expected() const override { return "no text: steps are inserted one after another"; }
+  };
+  class Table final : public cls_Describe<kprC_StepContainer, Base> {
+   public:
+    Table() : cls_Describe("kprC_StepContainer", 831) {
+      Add(std::make_unique<Order>(cls_FieldHandle{0, "order"}, &kprC_StepContainer::order_));
+    }
+  };
+  static Table const table;
   return table;
+}
+
+bool kprC_StepContainer::OrderIsSound() const {
+  std::set<unsigned int> ids;
+  for (cow_String const& name : order_) {
+    unsigned int const* const id = nameToID_.Find(name);
+    if (id == nullptr || !IsMember(*id) || !ids.insert(*id).second) return false;
+  }
+  return order_.Length() == Size() && order_.Length() == nameToID_.Size();
 }
 
 kprC_StepContainer* kprC_StepContainer::DeepCopy() const {

@@ -5,7 +5,7 @@
 
 /// The old versions of the steps: family, group, the numbers at which it changed, where the last one goes.
 /// Numbers stand in databases: one that was given is never changed or given to another shape.
-/// The random response became a step with its number 831, under the name of the next row.
+/// The random response is at 831 under both of its names: it had become a step before it got the name of one.
 inline constexpr dbc_OldFamily kprC_OldFamilies[] = {
     {"kprC_AdptMeshCons", 5, {840}, 1327},
     {"kprC_AnalysisStep", 5, {302, 328, 831, 867, 1389, 2001, 2511}, 2608},
@@ -43,7 +43,7 @@ inline constexpr dbc_OldFamily kprC_OldFamilies[] = {
     {"kprC_PerturbationProcedure", 4, {203}, dbc_Removed},
     {"kprC_PrimaryControls", 5, {302, 809, 867, 868, 888, 1706}, 2611},
     {"kprC_Procedure", 4, {203, 323, 326}, dbc_Removed},
-    {"kprC_RandomResponse", 5, {203, 204, 445}, dbc_Removed},
+    {"kprC_RandomResponse", 5, {203, 204, 445, 831}, dbc_Removed},
     {"kprC_RandomResponseStep", 5, {831}, 1385},
     {"kprC_ResponseSpectrum", 5, {203, 204, 445}, dbc_Removed},
     {"kprC_ResponseSpectrumComponent", 5, {203}, 1519},
@@ -76,7 +76,8 @@ inline constexpr dbc_OldFamily kprC_OldFamilies[] = {
     {"kprC_ViscoStep", 5, {831, 851, 1035}, 1563},
 };
 
-// What the links of the steps change, beside the values.
+// What the links of the steps change, beside the values: attributes that are new at the revision which a link leads to,
+// and those that had another form or were there before it.
 inline constexpr char const* kprC_AddedAt858[] = {"substructureCutoffMultiplier", "firstCutoffMultiplier",
                                                   "secondCutoffMultiplier",       "residualModeDof",
                                                   "residualModeRegion",           "limitSavedEigenvectorRegion"};

@@ -25,5 +25,6 @@ KPRC_OLD_LINK(kprC_StepContainer, 800, 831);
 
 #undef KPRC_OLD_LINK
 
-/// Makes each analysis step that held a procedure of class `oldId` the base of the step that the procedure became.
+/// Makes each analysis step that held a procedure of class `oldId` the base of the step that the procedure became. Two
+/// that held the same row are refused: one of them would be lost.
 void kprC_TieToAnalysisSteps(dbc_DatabaseConverter& converter, unsigned int oldId, dbc_Table& procedures);

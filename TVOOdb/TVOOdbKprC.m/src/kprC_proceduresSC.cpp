@@ -1,5 +1,5 @@
-#include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "dbc_Utils.h"
 #include "kprC_OldShapes.h"
@@ -37,10 +37,10 @@ dbc_Target NewStep(dbc_Target step) {
   return newId == 0 ? step : dbc_Target{newId, procedure.row};
 }
 
-/// The steps of all step containers, by the numbers of their names.
-std::unordered_map<std::uint32_t, dbc_Target> StepsByName() {
-  std::unordered_map<std::uint32_t, dbc_Target> steps;
+/// The steps of the model's container by the numbers of their names, one place for each text of the database.
+std::vector<dbc_Target> StepsByName() {
   cls_Database const& database = Converter().Database();
+  std::vector<dbc_Target> steps(database.strings.size());
   dbc_Table const repositories = Converter().Output().GetOutputTable(stepRepositoryId);
   rfm_FieldHandle const names("nameToID#OID");
   for (std::uint32_t row = 0; repositories.HasField(names) && row < repositories.Rows(); ++row) {
@@ -53,7 +53,7 @@ std::unordered_map<std::uint32_t, dbc_Target> StepsByName() {
     for (std::uint32_t entry = 0; entry < nameToId.count; ++entry) {
       std::size_t const at = nameToId.first + std::size_t{2} * entry;
       auto const found = byId.find(database.words[at + 1]);
-      if (found != byId.end()) steps.emplace(database.words[at], NewStep(found->second));
+      if (found != byId.end()) steps[database.words[at]] = NewStep(found->second);
     }
   }
   return steps;
@@ -63,18 +63,11 @@ std::unordered_map<std::uint32_t, dbc_Target> StepsByName() {
 struct NewProcedure {
   unsigned int oldId = 0;
   unsigned int newId = 0;
-  cls_Column const* base = nullptr;
 
   void Find(unsigned int classId) {
     if (classId == oldId) return;
     oldId = classId;
     newId = NewProcedureId(classId);
-    dbc_Table const table = newId == 0 ? dbc_Table() : Converter().Output().GetOutputTable(newId);
-    base = table.IsNull() ? nullptr : table.Find(rfm_FieldHandle(cls_BaseClassField));
-  }
-  /// Whether that row belongs to an analysis step.
-  bool HasStep(std::uint32_t row) const {
-    return base != nullptr && row < base->words.size() && base->words[row] != cls_NoRow;
   }
 };
 
@@ -82,13 +75,23 @@ struct NewProcedure {
 
 void kprC_TieToAnalysisSteps(dbc_DatabaseConverter& converter, unsigned int oldId, dbc_Table& procedures) {
   dbc_InputDatabase const& input = converter.Input();
+  cls_Column& base = *procedures.Find(rfm_FieldHandle(cls_BaseClassField));
+  // What derives from the analysis step already, under its former name, keeps its own.
+  bool const isStep = input.GetInputTable(oldId).Cells().parentTypeId == analysisStepId;
+  if (!isStep) std::fill(base.words.begin(), base.words.end(), cls_NoRow);
   dbc_Table const analysisSteps =
       input.GetInputTable(input.HasInputTable(analysisStepId) ? analysisStepId : formerAnalysisStepId);
-  cls_Column& base = *procedures.Find(rfm_FieldHandle(cls_BaseClassField));
-  std::fill(base.words.begin(), base.words.end(), cls_NoRow);
-  for (std::uint32_t row = 0; !analysisSteps.IsNull() && row < analysisSteps.Rows(); ++row) {
-    dbc_Target const procedure = dbc_Utils::Instance().GetObj(analysisSteps.Row(row), "procedure");
-    if (procedure.classId == oldId && procedure.row < procedures.Rows()) base.words[procedure.row] = row;
+  if (analysisSteps.IsNull()) return;
+  cls_Column const* const classes = analysisSteps.Find(rfm_FieldHandle("procedure#ClassID"));
+  cls_Column const* const rows = analysisSteps.Find(rfm_FieldHandle("procedure#OID"));
+  if (classes == nullptr || rows == nullptr) return;
+  for (std::uint32_t row = 0; row < analysisSteps.Rows(); ++row) {
+    std::uint32_t const procedure = rows->words[row];
+    if (classes->words[row] != oldId || procedure >= procedures.Rows()) continue;
+    if (base.words[procedure] != cls_NoRow) {
+      cls_RefuseStored(analysisSteps.Cells().name.View(), row, "holds a procedure that belongs to another step");
+    }
+    base.words[procedure] = row;
   }
 }
 
@@ -97,7 +100,7 @@ void* kprC_UpgradeProcedures(dbc_Table const&, dbc_Table& newTable) {
   cls_Column* const rows = newTable.Find(rfm_FieldHandle("procedure#OID"));
   cls_Column const* const names = newTable.Find(rfm_FieldHandle("stepName"));
   if (classes == nullptr || rows == nullptr) return nullptr;
-  std::unordered_map<std::uint32_t, dbc_Target> byName;
+  std::vector<dbc_Target> byName;
   NewProcedure procedure;
   for (std::uint32_t row = 0; row < newTable.Rows(); ++row) {
     std::uint32_t& place = rows->words[row];
@@ -105,12 +108,12 @@ void* kprC_UpgradeProcedures(dbc_Table const&, dbc_Table& newTable) {
     procedure.Find(classes->words[row]);
     if (procedure.newId == 0) continue;
     classes->words[row] = procedure.newId;
-    if (names == nullptr || procedure.HasStep(place)) continue;
-    if (byName.empty()) byName = StepsByName();
-    if (auto const found = byName.find(names->words[row]); found != byName.end()) {
-      classes->words[row] = found->second.classId;
-      place = found->second.row;
-    }
+    if (names == nullptr) continue;
+    if (byName.empty()) byName = StepsByName();  // has a place for the empty text at least
+    dbc_Target const& step = byName[names->words[row]];
+    if (step.row == cls_NoRow) continue;
+    classes->words[row] = step.classId;
+    place = step.row;
   }
   return nullptr;
 }

@@ -43,6 +43,9 @@ class TVO_API cls_Attribute {
   /// Gives the object a copy of its own of what it shares with others.
   virtual void Unshare(cls_Persistent&, cls_DeepCopyContext&) const {}
 
+  /// Refuses what an object that stands here, alone or in a list or map, refuses by an AssertValid() of its own.
+  virtual void AssertPartsValid(cls_Persistent const&) const {}
+
   /// The value as a person types it: shortest form of a number that reads back equal, names of enumerations, "(default)"
   /// for a number that is not given, elements of lists with commas between them.
   virtual std::string Text(cls_Persistent const& object) const = 0;

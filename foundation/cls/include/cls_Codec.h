@@ -281,3 +281,18 @@ struct cls_Codec<cow_COW<T, Policy>> {
  private:
   static T* Construct(cls_ReadVisitor& inner) { return static_cast<T*>(cls_ConstructStored(inner)); }
 };
+
+/// Asks the objects in a value that have an AssertValid(): the value itself, what it holds, its elements. They answer
+/// for what stands in them.
+template <class M>
+void cls_AssertPartsValid(M const& value) {
+  if constexpr (requires { value.AssertValid(); }) {
+    value.AssertValid();
+  } else if constexpr (requires { value.HasValue(), value.ConstGet(); }) {
+    if (value.HasValue()) cls_AssertPartsValid(value.ConstGet());
+  } else if constexpr (requires { value.begin(), value.end(); }) {
+    for (auto const& element : value) cls_AssertPartsValid(element);
+  } else if constexpr (requires { value.key, value.value; }) {
+    cls_AssertPartsValid(value.value);
+  }
+}

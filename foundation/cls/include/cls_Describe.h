@@ -24,6 +24,7 @@ class cls_MemberAttribute : public cls_Attribute {
   void Unshare(cls_Persistent& object, cls_DeepCopyContext& context) const override {
     Codec::Unshare(Of(object), context);
   }
+  void AssertPartsValid(cls_Persistent const& object) const override { cls_AssertPartsValid(Of(object)); }
   std::string Text(cls_Persistent const& object) const override { return Codec::Text(Of(object)); }
   bool SetText(cls_Persistent& object, std::string_view text) const override { return Codec::SetText(text, Of(object)); }
   char const* Expected() const override { return Codec::expected; }

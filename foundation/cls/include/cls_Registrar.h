@@ -11,7 +11,7 @@
 /// A class as the registry knows it: name, identifier, version, base, attributes, and how to make an object of it.
 class TVO_API cls_ClassMetadata {
  public:
-  /// `kind` is 1 for every class that is registered now.
+  /// `kind` is 1 for every class and tells nothing.
   cls_ClassMetadata(cow_String name, unsigned int typeId, int version, void* (*ctor)(cls_ReadVisitor&), unsigned int kind,
                     unsigned int parentTypeId = 0);
   virtual ~cls_ClassMetadata();
@@ -48,7 +48,6 @@ class TVO_API cls_ClassMetadata {
   unsigned int typeId_;
   int version_;
   void* (*ctor_)(cls_ReadVisitor&);
-  unsigned int kind_;
   unsigned int parentTypeId_;
   void (*dtor_)(cls_UntypedHolder*) = nullptr;
   std::vector<cls_DeclaredAttribute> declared_;

@@ -8,8 +8,8 @@
 #include "typ_ArchCompTable.h"
 
 cls_ClassMetadata::cls_ClassMetadata(cow_String name, unsigned int typeId, int version, void* (*ctor)(cls_ReadVisitor&),
-                                     unsigned int kind, unsigned int parentTypeId)
-    : name_(std::move(name)), typeId_(typeId), version_(version), ctor_(ctor), kind_(kind), parentTypeId_(parentTypeId) {}
+                                     unsigned int, unsigned int parentTypeId)
+    : name_(std::move(name)), typeId_(typeId), version_(version), ctor_(ctor), parentTypeId_(parentTypeId) {}
 
 cls_ClassMetadata::~cls_ClassMetadata() = default;
 

@@ -22,11 +22,15 @@ class dbc_ClassConverter {
  public:
   dbc_ClassConverter(unsigned int typeId, int oldVersion) : typeId_(typeId), oldVersion_(oldVersion) {}
 
+  /// Runs for each row, in the order of the rows; null for none.
   void BindConversionFunction(dbc_RowFunction function) noexcept { row_ = function; }
+  /// Runs once, behind all rows; null for none.
   void BindFinalizeFunction(dbc_FinalizeFunction function) noexcept { finalize_ = function; }
 
+  /// The class and the version that the link starts from.
   unsigned int TypeId() const noexcept { return typeId_; }
   int OldVersion() const noexcept { return oldVersion_; }
+  /// What is bound, or null.
   dbc_RowFunction ConversionFunction() const noexcept { return row_; }
   dbc_FinalizeFunction FinalizeFunction() const noexcept { return finalize_; }
 
@@ -40,8 +44,10 @@ class dbc_ClassConverter {
 /// All that changes at one schema revision.
 class TVO_API dbc_Converter {
  public:
-  /// Declares that stored rows of the class at `oldVersion` get their next shape at this revision.
+  /// Declares that stored rows of the class at `oldVersion` get their next shape at this revision. The class goes by
+  /// its identifier; the name tells readers which it is.
   dbc_ClassConverter& Upgrade(cow_String const& className, unsigned int const& typeId, int oldVersion);
+  /// All links that lead to this revision, in the order in which they were declared.
   std::vector<std::unique_ptr<dbc_ClassConverter>> const& Links() const noexcept { return links_; }
 
  private:
@@ -52,6 +58,7 @@ class TVO_API dbc_Converter {
 /// conversion is the same on both sides.
 class TVO_API dbc_InputDatabase {
  public:
+  /// Whether the database was stored with a table of the class.
   bool HasInputTable(unsigned int const& typeId) const { return tables_.contains(typeId); }
   /// The stored table, or a null handle.
   dbc_Table GetInputTable(unsigned int const& typeId) const;
@@ -70,8 +77,8 @@ class TVO_API dbc_OutputDatabase {
   /// The table of the class; an empty one in the shape of the revision in work if the database has none yet. A null
   /// handle for a class that this release does not know.
   dbc_Table GetOutputTable(unsigned int const& typeId);
-  /// The table of the class brought up to `version`, under the name that it has there. A null handle if the database
-  /// has none or its version is not on the class's chain.
+  /// The table of the class brought up to `version`, a number of its chain. A null handle if the database has none or
+  /// the chain does not stop there. The class goes by its identifier; the name tells readers which it is.
   dbc_Table GetTempTable(unsigned int const& typeId, cow_String const& className, int version);
 
  private:
@@ -84,7 +91,8 @@ class TVO_API dbc_OutputDatabase {
 /// Walks the chains of all stored classes up to the present versions, in ascending order of the revisions.
 class TVO_API dbc_DatabaseConverter {
  public:
-  /// Stands over a database whose references have been checked. It is changed by Run(), and by nothing else.
+  /// Stands over a database, which Run() changes, and nothing else.
+  /// @pre for Run(): FirstUnknown() is empty and the references have been checked (cls_ReadSession)
   explicit dbc_DatabaseConverter(cls_Database& database);
   ~dbc_DatabaseConverter();
   dbc_DatabaseConverter(dbc_DatabaseConverter const&) = delete;
@@ -100,7 +108,9 @@ class TVO_API dbc_DatabaseConverter {
   /// While it runs it is the holder's present converter. What it refuses leaves the database half converted.
   void Run();
 
+  /// The converter of that revision; a new one if nothing leads there yet.
   dbc_Converter& GetConverter(int version) { return converters_[version]; }
+  /// The two sides, and the database that both are of.
   dbc_InputDatabase& Input() noexcept { return input_; }
   dbc_OutputDatabase& Output() noexcept { return output_; }
   cls_Database& Database() noexcept { return database_; }
@@ -113,8 +123,9 @@ class TVO_API dbc_DatabaseConverter {
   cow_Map<cow_String, cow_String>& RenamedClasses() noexcept { return renamed_; }
 
   /// Copies the rows of a renamed class into the table of the class `newTypeId`, which is made in the oldest shape of
-  /// that class, and notes that references follow. Nothing happens, and the handle is null, if the database has no
-  /// table of the old class. A table below `oldVersion` is brought up to that version first. Refused with
+  /// that class, and notes that references follow. Nothing is copied, and the handle is null, if the database has no
+  /// table of the old class, or that has no rows and the new one has; rows in both are refused as damage. A table below
+  /// `oldVersion` is brought up to that version first. Refused with
   /// nex_PrimException<atr_String, 1> at `file`: "rename_NAME failed: outputTable can't be NULL", and the same with
   /// inputTable, where the one or the other cannot be had.
   dbc_Table RenameTable(cow_String const& oldName, unsigned int oldTypeId, int oldVersion, unsigned int newTypeId,
@@ -150,6 +161,7 @@ class TVO_API dbc_DatabaseConverterHolder : public omi_Singleton<dbc_DatabaseCon
  public:
   /// The present converter. @pre a conversion runs
   dbc_DatabaseConverter& GetDatabaseConverter() const { return *present_; }
+  /// Whether a conversion runs.
   bool HasDatabaseConverter() const noexcept { return present_ != nullptr; }
   /// Sets the present converter and gives the one before.
   dbc_DatabaseConverter* SetDatabaseConverter(dbc_DatabaseConverter* converter) noexcept {

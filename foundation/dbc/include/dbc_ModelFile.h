@@ -8,9 +8,10 @@
 #include "cls_Table.h"
 #include "dbc_FileFormat.h"
 
-// Databases in files. All refusals are nex_PrimException<cow_String, 2>; those of damaged files read
-// "FILE: section NAME at offset N: REASON". A name of an enumeration that this release lacks is refused by its
-// omu_PrimEnum.
+// Databases in files. What is wrong with a file is refused with nex_PrimException<cow_String, 2>; refusals of damaged
+// files read "FILE: section NAME at offset N: REASON". What is wrong with the program's own old classes shows when one
+// of their files is opened, and comes out as it is raised: a renamed class that cannot get its table with
+// nex_PrimException<atr_String, 1>, old classes that contradict each other with nex_PrimException<cow_String, 3>.
 
 /// Writes a database to a file: a new file beside it, synced, then renamed over it, and the directory synced, so that
 /// whoever reads finds the old or the new one whole. `schemaRevision` is the newest class version that occurs.

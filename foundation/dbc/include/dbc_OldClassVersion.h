@@ -38,11 +38,12 @@ class TVO_API dbc_OldClassRegistrar : public omi_Singleton<dbc_OldClassRegistrar
   };
 
   /// Enters an old class; the registrar shares the object with the holder. Groups are 1, 4 and 5; others are refused
-  /// with nex_PrimException<cow_String, 3>, and so is, at the first question, a class that is entered twice in one
-  /// version.
+  /// with nex_PrimException<cow_String, 3>, and so are, at the first question, a class that is entered twice in one
+  /// version and an old class that declares nothing.
   void Register(cow_CountedHld<dbc_OldClassVersion>* holder, unsigned int group);
   /// Takes an old class out again; nothing happens if it is not there.
   void Unregister(dbc_OldClassVersion const* version);
+  /// Whether no old class is registered.
   bool IsEmpty() const noexcept { return entries_.empty(); }
 
   /// All old classes: lower numbers first, of equal numbers lower groups first, then in the order of registration.

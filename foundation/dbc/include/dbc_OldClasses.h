@@ -15,7 +15,7 @@
 
 /// A number of a family's chain, with a group if that is not the family's.
 struct dbc_OldNumber {
-  constexpr dbc_OldNumber(int number, unsigned int ownGroup = 0) : version(number), group(ownGroup) {}
+  constexpr dbc_OldNumber(int number = 0, unsigned int ownGroup = 0) : version(number), group(ownGroup) {}
 
   int version;
   unsigned int group;
@@ -29,11 +29,7 @@ struct dbc_OldNumbers {
   constexpr dbc_OldNumber const* begin() const { return numbers.data(); }
   constexpr dbc_OldNumber const* end() const { return numbers.data() + count; }
 
-  std::array<dbc_OldNumber, 16> numbers = [] {
-    return []<std::size_t... i>(std::index_sequence<i...>) {
-      return std::array<dbc_OldNumber, 16>{((void)i, dbc_OldNumber(0))...};
-    }(std::make_index_sequence<16>());
-  }();
+  std::array<dbc_OldNumber, 16> numbers = {};
   std::size_t count = 0;
 };
 
@@ -152,7 +148,11 @@ struct TVO_API dbc_OldPlace {
 
   /// The place of the n-th number of all families.
   static dbc_OldPlace At(dbc_History const& history, std::size_t n);
+  /// The number's own group, or the family's.
   unsigned int Group() const;
+
+  // As in dbc_OldClassVersion. A shape is declared from the next one backwards; only a family's last number lists the
+  // class as gone or renamed.
   void InitializeMetadata(cls_ClassRegistrar& registrar) const;
   void SchemaChanges(dbc_DatabaseConverter& converter) const;
   void ClassesToDelete(dbc_DatabaseConverter& converter) const;

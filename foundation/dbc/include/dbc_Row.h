@@ -28,15 +28,21 @@ class TVO_API dbc_Table {
       : database_(&database), cells_(&cells), shape_(shape) {}
 
   bool IsNull() const noexcept { return cells_ == nullptr; }
+
+  // @pre of all that follows: !IsNull()
+
+  /// Number of rows; the class, and the version of the shape that they have now.
   std::uint32_t Rows() const noexcept { return cells_->Rows(); }
   unsigned int TypeId() const noexcept { return cells_->typeId; }
   int Version() const noexcept { return cells_->version; }
+  /// Whether the rows have the field; one that the shape declares and nobody has set is not there.
   bool HasField(rfm_FieldHandle const& field) const { return Find(field) != nullptr; }
   /// A row of the table. @pre row < Rows()
   dbc_Row Row(std::uint32_t row) const;
   /// One more row, all of whose cells have their default. `ofObject` gives it an identity; the part of a base has none.
   dbc_Row NewRow(bool ofObject);
 
+  /// The database of the table, and the table itself.
   cls_Database& Database() const noexcept { return *database_; }
   cls_Table& Cells() const noexcept { return *cells_; }
   /// The column of that name, or null.

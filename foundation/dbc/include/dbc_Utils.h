@@ -29,5 +29,6 @@ class TVO_API dbc_Utils : public omi_Singleton<dbc_Utils> {
                                                   std::vector<double> const& values) const;
   /// The object that an attribute refers to; no row for none, or if the row lacks the attribute.
   dbc_Target GetObj(dbc_Row const& row, cow_String const& key) const;
+  /// Makes the attribute refer to that object.
   void SetObj(dbc_Row& row, cow_String const& key, dbc_Target object) const;
 };

@@ -163,12 +163,18 @@ std::string dbc_DatabaseConverter::FirstUnknown(cls_Database const& database) {
   auto const notKnown = [](cls_Table const& table) {
     return " and identifier " + std::to_string(table.typeId) + ", which this release does not know";
   };
+  auto const notThere = [](cls_DeclaredAttribute const& unknown) {
+    return std::string(" and an attribute ") + unknown.field.name.CStr() + " that this version does not have";
+  };
   std::unique_ptr<Departures> departures;
   for (auto const& table : database.tables) {
     cls_ClassMetadata const* const present = cls_ClassRegistrar::Present().Find(table->typeId);
     if (present != nullptr && present->Version() == table->version) {
       if (!(present->Name() == table->name)) {
         return Stored(*table) + notKnown(*table);
+      }
+      if (cls_DeclaredAttribute const* const unknown = FirstUnknownAttribute(*table, *present)) {
+        return Stored(*table) + notThere(*unknown);
       }
       if (present->ParentTypeId() != table->parentTypeId || present->Declared() != table->declared) {
         return Stored(*table) + " as in this release, but other attributes";
@@ -179,7 +185,7 @@ std::string dbc_DatabaseConverter::FirstUnknown(cls_Database const& database) {
       departures = std::make_unique<Departures>();
     }
     cls_ClassMetadata const* const old = dbc_OldClassRegistrar::Instance().Find(table->typeId, table->version);
-    std::vector<int> const versions = dbc_OldClassRegistrar::Instance().Versions(table->typeId);
+    std::vector<int> versions = dbc_OldClassRegistrar::Instance().Versions(table->typeId);
     bool const known = old == nullptr ? !versions.empty() || (present != nullptr && present->Name() == table->name)
                                       : old->Name() == table->name ||
                                             table->name == typ_ArchCompTable::GetName(table->typeId);
@@ -188,22 +194,26 @@ std::string dbc_DatabaseConverter::FirstUnknown(cls_Database const& database) {
       return Stored(*table) + notKnown(*table);
     }
     if (old == nullptr) {
+      if (present != nullptr) {
+        versions.push_back(present->Version());
+      }
       std::string reads;
       for (int const version : versions) {
-        reads += std::to_string(version) + ", ";
+        reads += (reads.empty() ? "" : ", ") + std::to_string(version);
       }
-      return Stored(*table) + ", this release reads version " + reads +
-             (present == nullptr ? "" : std::to_string(present->Version()));
+      return Stored(*table) + ", this release reads version " + reads;
     }
     bool const renamed = departures->renamed.IsMember(old->Name());
     if (goes && !renamed) {
       continue;  // It is dropped, whatever it holds.
     }
-    if (!renamed && old->ParentTypeId() != table->parentTypeId) {
+    // Of a renamed class the base is known only if a link tells it.
+    bool const baseTold = !renamed || old->ParentTypeId() != 0;
+    if (baseTold && old->ParentTypeId() != table->parentTypeId) {
       return Stored(*table) + " and another base than that version has";
     }
     if (cls_DeclaredAttribute const* const unknown = FirstUnknownAttribute(*table, *old)) {
-      return Stored(*table) + " and an attribute " + unknown->field.name.CStr() + " that this version does not have";
+      return Stored(*table) + notThere(*unknown);
     }
   }
   return {};
@@ -312,6 +322,10 @@ dbc_Table dbc_DatabaseConverter::RenameTable(cow_String const& oldName, unsigned
   }
   if (input.IsNull()) {
     refuse("inputTable");
+  }
+  if (output.Rows() > 0 && input.Rows() == 0) {
+    newTypeIds_[oldTypeId] = newTypeId;
+    return {};
   }
   if (output.Rows() > 0) {
     cls_RefuseStored(oldName.View(), cls_NoRow, "has rows under its new name, too");

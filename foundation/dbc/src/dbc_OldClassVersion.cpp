@@ -10,10 +10,17 @@ void dbc_OldClassVersion::ClassesToDelete(dbc_DatabaseConverter&) {}
 void dbc_OldClassVersion::ClassesToRename(dbc_DatabaseConverter&) {}
 void dbc_OldClassVersion::TablesToRename(dbc_DatabaseConverter&) {}
 
+namespace {
+
+[[noreturn]] void RefuseOldClass(std::string const& text) {
+  nex_PrimException<cow_String, 3>(cow_String(text)).Throw(__FILE__, __LINE__);
+}
+
+}  // namespace
+
 void dbc_OldClassRegistrar::Register(cow_CountedHld<dbc_OldClassVersion>* holder, unsigned int group) {
   if (group != 1 && group != 4 && group != 5) {
-    nex_PrimException<cow_String, 3>(cow_String("No group of old classes: " + std::to_string(group) + "."))
-        .Throw(__FILE__, __LINE__);
+    RefuseOldClass("No group of old classes: " + std::to_string(group) + ".");
   }
   entries_.push_back({*holder, group});
   declared_ = false;
@@ -33,12 +40,14 @@ void dbc_OldClassRegistrar::Declare() {
   for (Entry& entry : entries_) {
     entry.declared = std::make_unique<cls_ClassRegistrar>();
     entry.version.GetRef().InitializeMetadata(*entry.declared);
+    if (entry.declared->All().empty()) {
+      RefuseOldClass("An old class declares nothing.");
+    }
     entry.metadata = entry.declared->All().begin()->second.get();
     auto const& key = std::pair(entry.metadata->TypeId(), entry.metadata->Version());
     if (!byVersion_.emplace(key, entry.metadata).second) {
-      std::string const text = std::string("Class ") + entry.metadata->Name().CStr() + " has its version " +
-                               std::to_string(entry.metadata->Version()) + " twice.";
-      nex_PrimException<cow_String, 3>(cow_String(text)).Throw(__FILE__, __LINE__);
+      RefuseOldClass(std::string("Class ") + entry.metadata->Name().CStr() + " has its version " +
+                     std::to_string(entry.metadata->Version()) + " twice.");
     }
   }
   std::stable_sort(entries_.begin(), entries_.end(), [](Entry const& a, Entry const& b) {

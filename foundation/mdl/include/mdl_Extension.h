@@ -47,9 +47,9 @@ cls_AttributeTable const& mdl_ExtensionWrapper<T>::Attributes() {
   return table;
 }
 
-/// Objects by name, copied on write.
+/// Objects by name, copied on write, as an attribute of the object that they belong to.
 template <class T>
-using mdl_MapString2ObjCow = cls_xcBtree<cow_String, cow_COW<T, cow_Virtual<T>>, T>;
+using mdl_CowsByName = cls_xcBtree<cow_String, cow_COW<T, cow_Virtual<T>>, T>;
 
 /// A repository of objects by key.
 template <class K, class T>
@@ -82,6 +82,10 @@ cls_AttributeTable const& mdl_MapOfCowsRepository<K, T>::Attributes() {
       cls_Describe<Self, mdl_Repository>(cls_InstanceOf<Self>::name, 203).Attribute("map", &Self::map);
   return table;
 }
+
+/// The definitions of one kind that a model holds by name.
+template <class T>
+using mdl_MapString2ObjCow = mdl_MapOfCowsRepository<cow_String, T>;
 
 /// The repository whose element classes the host supplies.
 using mdl_ExtensionRepository = mdl_MapOfCowsRepository<cow_String, mdl_Extension>;

@@ -11,7 +11,7 @@ inline constexpr typ_Row typ_mdlRows[] = {
     {2, "mdl_Extension", ""},
     {3, "mdl_ExtensionWrapper", "mdl_Extension"},
     {4, "mdl_MapOfCowsRepository", "mdl_Repository"},
-    {5, "mdl_MapString2ObjCow", ""},
+    {5, "mdl_MapString2ObjCow", "mdl_Repository"},
     {6, "mdl_PropAttr<double>", ""},
     {7, "mdl_PropAttr<int>", ""},
     {8, "mdl_PropAttr<bool>", ""},

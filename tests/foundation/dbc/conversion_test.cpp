@@ -178,5 +178,13 @@ TEST_F(ConversionTest, RefusesOldClassesThatContradictEachOther) {
   registrar.Register(&twice, 4);
   EXPECT_EQ(smp_Refusal([&] { registrar.InOrder(); }), "Class smp_Box has its version 100 twice.");
   registrar.Unregister(twice.GetPtr());
+  struct Silent final : dbc_OldClassVersion {
+    void InitializeMetadata(cls_ClassRegistrar&) override {}
+    void SchemaChanges(dbc_DatabaseConverter&) override {}
+  };
+  cow_CountedHld<dbc_OldClassVersion> silent(new Silent());
+  registrar.Register(&silent, 5);
+  EXPECT_EQ(smp_Refusal([&] { registrar.InOrder(); }), "An old class declares nothing.");
+  registrar.Unregister(silent.GetPtr());
   EXPECT_EQ(registrar.Versions(smp_Box::TypeId()), (std::vector<int>{100, 150}));
 }
