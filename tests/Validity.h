@@ -14,17 +14,6 @@
 
 // What AssertValid of a class of steps or of their options refuses, as rows of edits and numbers.
 
-/// "timePeriod=2 amplitude=RAMP": sets attributes as a script does.
-inline void SetAttributes(cls_Persistent& object, std::string const& edits) {
-  std::istringstream words(edits);
-  for (std::string word; words >> word;) {
-    std::size_t const equals = word.find('=');
-    cls_Attribute const* const attribute = object.DynAttributes().Find(word.substr(0, equals));
-    ASSERT_NE(attribute, nullptr) << object.DynAttributes().Name().CStr() << " has no " << word;
-    ASSERT_TRUE(attribute->SetText(object, word.substr(equals + 1))) << word << ", expected " << attribute->Expected();
-  }
-}
-
 /// One edit of a valid object and the number that refuses it; 0 if it passes.
 template <class T>
 struct ValidityRow {

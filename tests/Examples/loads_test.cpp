@@ -134,7 +134,9 @@ step Y AnnealStep after=X
 create ConcentratedForce x createStepName=X c1=1
 move loads x fromStepName=X toStepName=Y
 deactivate loads x stepName=Y
-)", "line 4: refused: Cannot move a load into an Anneal step.\nline 5: refused: Load is not active.\n"},
+create ConcentratedForce y createStepName=Y c1=1
+)", "line 4: refused: Cannot move a load into an Anneal step.\nline 5: refused: Load is not active.\n"
+    "line 6: refused: No loads are allowed in an Anneal step.\n"},
       {R"(step X ExplicitDynamicsStep after=Initial
 step Y ExplicitDynamicsStep after=X
 create ConcentratedForce x createStepName=Y c1=1

@@ -12,74 +12,33 @@
 
 namespace {
 
+using namespace over_steps;
+
 auto* const environment = ::testing::AddGlobalTestEnvironment(new LibraryEnvironment());
 
 using BC = kbcC_DisplacementBC;
 using State = kbcC_DisplacementBCState;
 using Ints = std::vector<int>;
 
-constexpr char const* passes = "passes";
-
-std::string Words(int error) {
-  return Refusal([error] { kbcC_Assert(false, error); });
-}
-
-State WithU1(double value) {
-  State state;
-  state.u1 = value;
-  return state;
-}
-
-BC Created(char const* step, std::string const& plan, double value = 0.5) {
-  BC bc;
-  bc.Insert(step, WithU1(value));
-  bc.Initialize(Steps(plan));
-  return bc;
-}
-
-/// What stands for the value of a step that holds none.
-constexpr double none = -1.0;
-double U1(BC const& bc, char const* step) {
-  auto const* const state = static_cast<State const*>(bc.StateIn(step));
-  return state == nullptr ? none : state->u1.ConstGet();
-}
+auto& Words = WordsOf<BC>;
+auto& WithU1 = WithValue<BC>;
 
 // ---- statuses and states over the steps
 
-struct Event {
-  char const* name;
-  std::function<void(BC&)> edit;
-  Ints history;
-};
-
-/// No edit, but a look at values.
-std::function<void(BC&)> Has(std::vector<std::pair<char const*, double>> values) {
-  return [values](BC& bc) {
-    for (auto const& [step, value] : values) EXPECT_EQ(U1(bc, step), value) << step;
-  };
-}
-
-void Follow(BC bc, std::initializer_list<Event> events) {
-  for (Event const& event : events) {
-    event.edit(bc);
-    EXPECT_EQ(Statuses(bc), event.history) << event.name;
-  }
-}
-
 TEST(BoundaryConditionTest, EveryEditReachesTheStepsBehindIt) {
-  Follow(Created("A", "A B C D"), {
-    {"created", [](BC&) {}, {0, 1, 2, 2, 2}},
-    {"edited in C", [](BC& bc) { bc.Insert("C", WithU1(2.0)); }, {0, 1, 2, 3, 2}},
+  Follow(Created<BC>("A", "A B C D"), {
+    {"created", nothing, {0, 1, 2, 2, 2}},
+    {"edited in C", Edited("C"), {0, 1, 2, 3, 2}},
     {"the edit is inherited", Has({{"B", 0.5}, {"D", 2.0}}), {0, 1, 2, 3, 2}},
-    {"deactivated in D", [](BC& bc) { bc.Deactivate("D"); }, {0, 1, 2, 3, 4}},
-    {"reset in D", [](BC& bc) { bc.Reset("D"); }, {0, 1, 2, 3, 2}},
-    {"moved from A to B", [](BC& bc) { bc.Move("A", "B"); }, {0, 0, 1, 3, 2}},
-    {"reset where nothing was said", [](BC& bc) { bc.Reset("D"); }, {0, 0, 1, 3, 2}},
+    {"deactivated in D", Deactivated("D"), {0, 1, 2, 3, 4}},
+    {"reset in D", Reset("D"), {0, 1, 2, 3, 2}},
+    {"moved from A to B", Moved("A", "B"), {0, 0, 1, 3, 2}},
+    {"reset where nothing was said", Reset("D"), {0, 0, 1, 3, 2}},
     {"the edit dropped", [](BC& bc) { EXPECT_TRUE(bc.Remove("C")); }, {0, 0, 1, 2, 2}},
-    {"moved back to A", [](BC& bc) { bc.Move("B", "A"); }, {0, 1, 2, 2, 2}},
-    {"deactivated in B", [](BC& bc) { bc.Deactivate("B"); }, {0, 1, 4, 5, 5}},
-    {"and again", [](BC& bc) { bc.Deactivate("B"); }, {0, 1, 4, 5, 5}},
-    {"and where it is not there", [](BC& bc) { bc.Deactivate("D"), bc.Deactivate("Initial"); }, {0, 1, 4, 5, 5}},
+    {"moved back to A", Moved("B", "A"), {0, 1, 2, 2, 2}},
+    {"deactivated in B", Deactivated("B"), {0, 1, 4, 5, 5}},
+    {"and again", Deactivated("B"), {0, 1, 4, 5, 5}},
+    {"and where it is not there", Both(Deactivated("D"), Deactivated("Initial")), {0, 1, 4, 5, 5}},
     {"a step put before B", [](BC& bc) { bc.InsertStep(2, Steps("X")[1]); }, {0, 1, 2, 4, 5, 5}},
     {"B renamed", [](BC& bc) { bc.RenameStep("B", "Y"); }, {0, 1, 2, 4, 5, 5}},
     {"and removed", [](BC& bc) { bc.RemoveStep("Y"); }, {0, 1, 2, 2, 2}},
@@ -88,33 +47,33 @@ TEST(BoundaryConditionTest, EveryEditReachesTheStepsBehindIt) {
 }
 
 TEST(BoundaryConditionTest, PerturbationStepsLeaveNoTrace) {
-  Follow(Created("A", "A B C:F D"), {
+  Follow(Created<BC>("A", "A B C:F D"), {
     {"a frequency step", Has({{"C", 0.0}, {"D", 0.5}}), {0, 1, 2, 9, 2}},
-    {"modified from the base", [](BC& bc) { bc.Insert("C", WithU1(3.0)); }, {0, 1, 2, 10, 2}},
+    {"modified from the base", Edited("C", 3.0), {0, 1, 2, 10, 2}},
     {"for that step alone", Has({{"C", 3.0}, {"D", 0.5}}), {0, 1, 2, 10, 2}},
-    {"deactivated from the base", [](BC& bc) { bc.Deactivate("C"); }, {0, 1, 2, 11, 2}},
-    {"before a modal step", [](BC& bc) { bc.Initialize(Steps("A B C:F D:M E")); }, {0, 1, 2, 11, 5, 2}},
-    {"the next frequencies hold it", [](BC& bc) { bc.Initialize(Steps("A B C:F D:F E:M")); }, {0, 1, 2, 11, 9, 12}},
+    {"deactivated from the base", Deactivated("C"), {0, 1, 2, 11, 2}},
+    {"before a modal step", Replanned("A B C:F D:M E"), {0, 1, 2, 11, 5, 2}},
+    {"the next frequencies hold it", Replanned("A B C:F D:F E:M"), {0, 1, 2, 11, 9, 12}},
   });
-  Follow(Created("A", "A B C D:M"), {
+  Follow(Created<BC>("A", "A B C D:M"), {
     {"a modal step", Has({{"C", 0.5}, {"D", none}}), {0, 1, 2, 2, 12}},
-    {"an edit there", [](BC& bc) { bc.Insert("D", WithU1(1.0)); }, {0, 1, 2, 2, 12}},
+    {"an edit there", Edited("D", 1.0), {0, 1, 2, 2, 12}},
     {"is dropped", Has({{"C", 0.5}, {"D", none}}), {0, 1, 2, 2, 12}},
   });
-  Follow(Created("A", "A B C:F D:P E:M F"), {
-    {"one after the other", [](BC& bc) { bc.Insert("C", WithU1(1.0)); }, {0, 1, 2, 10, 9, 12, 2}},
+  Follow(Created<BC>("A", "A B C:F D:P E:M F"), {
+    {"one after the other", Edited("C", 1.0), {0, 1, 2, 10, 9, 12, 2}},
     {"and all from the base", Has({{"C", 1.0}, {"D", 0.0}, {"F", 0.5}}), {0, 1, 2, 10, 9, 12, 2}},
-    {"deactivated before", [](BC& bc) { bc.Deactivate("B"); }, {0, 1, 4, 5, 5, 5, 5}},
+    {"deactivated before", Deactivated("B"), {0, 1, 4, 5, 5, 5, 5}},
   });
   // What a perturbation step creates reaches the modal steps on its frequencies, and no other.
-  EXPECT_EQ(Statuses(Created("B", "A B:F C:M D:F! E:M F G:M")), (Ints{0, 0, 1, 12, 7, 12, 7, 7}));
-  EXPECT_EQ(Statuses(Created("B", "A B:P C:M D")), (Ints{0, 0, 1, 7, 7}));
+  EXPECT_EQ(Statuses(Created<BC>("B", "A B:F C:M D:F! E:M F G:M")), (Ints{0, 0, 1, 12, 7, 12, 7, 7}));
+  EXPECT_EQ(Statuses(Created<BC>("B", "A B:P C:M D")), (Ints{0, 0, 1, 7, 7}));
 }
 
 TEST(BoundaryConditionTest, StepsThatDoNotTakeTheTypePassItOn) {
-  BC bc = Created("A", "A B:H C D");
+  BC bc = Created<BC>("A", "A B:H C D");
   EXPECT_EQ(Statuses(bc), (Ints{0, 1, 6, 2, 2}));
-  EXPECT_EQ(U1(bc, "C"), 0.5);
+  EXPECT_EQ(ValueIn(bc, "C"), 0.5);
   // A deactivation in a step that ceases to take the type is honoured by the next that does.
   bc.Initialize(Steps("A B C D"));
   bc.Deactivate("B");
@@ -126,63 +85,20 @@ TEST(BoundaryConditionTest, StepsThatDoNotTakeTheTypePassItOn) {
 }
 
 TEST(BoundaryConditionTest, SuppressedStepsShowTheirStatusOnly) {
-  BC bc = Created("A", "A B C D");
+  BC bc = Created<BC>("A", "A B C D");
   bc.Insert("B", WithU1(1.0));
   bc.Deactivate("C");
   bc.Initialize(Steps("A B! C! D"));
   EXPECT_EQ(Statuses(bc), (Ints{0, 1, 3, 4, 2}));
-  EXPECT_EQ(U1(bc, "D"), 0.5);
+  EXPECT_EQ(ValueIn(bc, "D"), 0.5);
   bc.Initialize(Steps("A! B C D"));
   EXPECT_EQ(Statuses(bc), (Ints{0, 1, 3, 4, 5}));
 }
 
 // ---- refusals
 
-struct RefusedEdit {
-  char const* name;
-  char const* plan;
-  std::function<void(BC&)> before;
-  std::function<void(BC&)> edit;
-  int error;  ///< 0: passes
-};
-
-void CheckRefusals(std::initializer_list<RefusedEdit> rows) {
-  for (RefusedEdit const& row : rows) {
-    BC bc = Created("A", row.plan);
-    row.before(bc);
-    EXPECT_EQ(Refusal([&] { row.edit(bc); }), row.error == 0 ? passes : Words(row.error)) << row.name;
-  }
-}
-
-auto const nothing = [](BC&) {};
-auto Edited(char const* step) {
-  return [step](BC& bc) { bc.Insert(step, WithU1(2.0)); };
-}
-auto Planned(std::function<void(BC&)> edit, char const* plan) {
-  return [edit, plan](BC& bc) {
-    edit(bc);
-    bc.Initialize(Steps(plan));
-  };
-}
-auto Deactivated(char const* step) {
-  return [step](BC& bc) { bc.Deactivate(step); };
-}
-auto Reset(char const* step) {
-  return [step](BC& bc) { bc.Reset(step); };
-}
-auto Moved(char const* from, char const* to) {
-  return [from, to](BC& bc) { bc.Move(from, to); };
-}
-auto Copied(char const* step) {
-  return [step](BC& bc) { bc.CopiedToStep(step); };
-}
-auto InLoadCase(char const* step) {
-  return [step](BC& bc) { bc.ValidInALoadCase(step, true); };
-}
-void SuppressByUser(BC& bc) { bc.Suppress(false, false); }
-
 TEST(BoundaryConditionTest, RefusesDeactivationsAndResets) {
-  CheckRefusals({
+  ExpectRefusedEdits<BC>({
       {"unknown step", "A B", nothing, Deactivated("Z"), 3},
       {"step without the type", "A B:H!", nothing, Deactivated("B"), 9},
       {"suppressed step", "A B!", nothing, Deactivated("B"), 64},
@@ -194,21 +110,21 @@ TEST(BoundaryConditionTest, RefusesDeactivationsAndResets) {
       {"inactive step", "A B C", Deactivated("B"), Reset("C"), 58},
       {"base modified", "A B:F", Edited("B"), Reset("B"), 58},
       {"base deactivated", "A B:F", Deactivated("B"), Reset("B"), 0},
-      {"deactivated, suppressed", "A B", Planned(Deactivated("B"), "A B!"), Reset("B"), 65},
+      {"deactivated, suppressed", "A B", Both(Deactivated("B"), Replanned("A B!")), Reset("B"), 65},
       {"propagated, suppressed", "A B!", nothing, Reset("B"), 65},
       {"replacing the create step", "A B", nothing, [](BC& bc) { bc.ReplaceStep("A"); }, 19},
       {"removing the create step", "A B", nothing, [](BC& bc) { bc.Remove("B"); bc.RemoveStep("A"); }, 0},
       {"removing what alone holds a state", "A", nothing, [](BC& bc) { bc.RemoveStep("A"); }, 3},
   });
-  EXPECT_EQ(Refusal([] { Created("A", "A").Reset("Z"); }), "Z");
+  EXPECT_EQ(Refusal([] { Created<BC>("A", "A").Reset("Z"); }), "Z");
 }
 
 TEST(BoundaryConditionTest, RefusesMovesInOrder) {
-  CheckRefusals({
+  ExpectRefusedEdits<BC>({
       {"same step", "A! B:N", nothing, Moved("A", "A"), 0},
       {"onto an edit", "A B C D", Edited("D"), Moved("A", "D"), 28},
-      {"across an edit", "A B C D", [](BC& bc) { Edited("B")(bc), Edited("D")(bc); }, Moved("A", "D"), 27},
-      {"across an edit in a suppressed step", "A B C", Planned(Edited("B"), "A B! C"), Moved("A", "C"), 0},
+      {"across an edit", "A B C D", Both(Edited("B"), Edited("D")), Moved("A", "D"), 27},
+      {"across an edit in a suppressed step", "A B C", Both(Edited("B"), Replanned("A B! C")), Moved("A", "C"), 0},
       {"backward onto the creation", "A B C D", Edited("C"), Moved("C", "A"), 28},
       {"of a deactivation", "A B C", Deactivated("B"), Moved("B", "C"), 17},
       {"of what was inherited", "A B! C:P", nothing, Moved("B", "C"), 18},
@@ -223,13 +139,13 @@ TEST(BoundaryConditionTest, RefusesMovesInOrder) {
       {"non-zero into the initial step", "A B", nothing, Moved("A", "Initial"), 6},
   });
   // Out of a flow step: the edit was made before the step became one.
-  BC inFlow = Created("A", "A B C");
+  BC inFlow = Created<BC>("A", "A B C");
   inFlow.Insert("B", WithU1(1.0));
   inFlow.Initialize(Steps("A B:W C"));
   EXPECT_EQ(Refusal([&] { inFlow.Move("B", "C"); }), Words(105));
 
   // A refusal by the two steps themselves comes after the states between are dropped; one of a step between before.
-  BC bc = Created("A", "A B C D:N");
+  BC bc = Created<BC>("A", "A B C D:N");
   bc.Insert("B", WithU1(1.0));
   EXPECT_EQ(Refusal([&] { bc.Move("A", "D"); }), Words(27));
   EXPECT_NE(bc.StateIn("C"), nullptr);
@@ -242,7 +158,7 @@ TEST(BoundaryConditionTest, RefusesMovesInOrder) {
 }
 
 TEST(BoundaryConditionTest, RefusesCopiesAndLoadCases) {
-  CheckRefusals({
+  ExpectRefusedEdits<BC>({
       {"suppressed object to its own step", "A! B", SuppressByUser, Copied("A"), 0},
       {"suppressed object elsewhere", "A B!", SuppressByUser, Copied("B"), 78},
       {"to a suppressed step", "A B:H!", nothing, Copied("B"), 79},
@@ -254,11 +170,11 @@ TEST(BoundaryConditionTest, RefusesCopiesAndLoadCases) {
       {"load case before creation", "Z A", nothing, InLoadCase("Z"), 48},
       {"load case of a suppressed object", "A B", SuppressByUser, InLoadCase("A"), 48},
   });
-  BC bc = Created("A", "A B:F");
+  BC bc = Created<BC>("A", "A B:F");
   auto const copy = bc.CopiedToStep("B");
   EXPECT_EQ(Statuses(*copy), Ints{1});
   EXPECT_EQ(static_cast<State const*>(copy->StateIn("B"))->u1.State(), UNSET);
-  EXPECT_EQ(U1(bc, "A"), 0.5);
+  EXPECT_EQ(ValueIn(bc, "A"), 0.5);
   EXPECT_NE(copy->Uid(), bc.Uid());
 
   kbcC_ConnVelocityBC connector;
@@ -270,29 +186,12 @@ TEST(BoundaryConditionTest, RefusesCopiesAndLoadCases) {
 }
 
 TEST(BoundaryConditionTest, KnowsItsStatusesOnly) {
-  BC const bc = Created("A", "A B");
-  std::vector<std::function<bool(mdl_PropagationStatusEnm)>> const predicates = {
-      [&](auto status) { return bc.IsActive(status); },    [&](auto status) { return bc.IsPropagated(status); },
-      [&](auto status) { return bc.IsBuiltIn(status); },   [](auto status) { return BC::IsModified(status); },
-      [](auto status) { return BC::IsIllegalMove(status); }, [](auto status) { return BC::IsValueComputed(status); }};
-  std::vector<std::set<int>> const yes = {{1, 2, 3, 9, 10}, {2, 9}, {12}, {1, 3, 4, 10, 11}, {1, 3, 4, 10}, {}};
-  for (std::size_t i = 0; i < predicates.size(); ++i) {
-    for (int status = 0; status < 18; ++status) {
-      bool answer = false;
-      bool const known = status != 8 && status <= 12;
-      EXPECT_EQ(Refusal([&] { answer = predicates[i](static_cast<mdl_PropagationStatusEnm>(status)); }),
-                known ? passes : Words(47))
-          << i << " " << status;
-      EXPECT_EQ(answer, yes[i].count(status) == 1) << i << " " << status;
-    }
-  }
-  Ints const errors = {3, 10, 11, 55, 56, 57, 57};
-  kbcC_BCPropagator const propagator(bc, bc.States());
-  for (int flag = 0; flag < 7; ++flag) {
-    EXPECT_EQ(Refusal([&] { propagator.ErrorHandler(static_cast<kprC_PropErrorEnum>(flag)); }),
-              Words(errors[static_cast<std::size_t>(flag)]));
-  }
+  BC const bc = Created<BC>("A", "A B");
+  ExpectPredicates(bc, {0, 1, 2, 3, 4, 5, 6, 7, 9, 10, 11, 12}, 47,
+                   {{1, 2, 3, 9, 10}, {2, 9}, {12}, {1, 3, 4, 10, 11}, {1, 3, 4, 10}, {}});
+  ExpectPropagatorErrors(bc, {3, 10, 11, 55, 56, 57, 57});
   EXPECT_EQ(Refusal([] { BC().Sync(); }), Words(3));
+  EXPECT_NE(Refusal([] { BC().Insert("A", kbcC_VelocityBCState()); }), passes);
   EXPECT_EQ(Refusal([] { BC().CreateStepName(); }), "\"All states are empty\" == 0");
   EXPECT_EQ(Refusal([&] { bc.Status("Z"); }), "Z");
   EXPECT_FALSE(bc.IsEditable("Z"));
@@ -427,15 +326,15 @@ TEST(ComponentBCTest, EditsLayOverWhatWasInherited) {
 }
 
 TEST(ComponentBCTest, ValidatesEachMember) {
-  EXPECT_EQ(Refusal([] { Created("Initial", "A", 0.0); }), passes);
-  EXPECT_EQ(Refusal([] { Created("Initial", "A", 0.5); }), Words(6));
-  BC fixed = Created("A", "A B", 0.0);
+  EXPECT_EQ(Refusal([] { Created<BC>("Initial", "A", 0.0); }), passes);
+  EXPECT_EQ(Refusal([] { Created<BC>("Initial", "A", 0.5); }), Words(6));
+  BC fixed = Created<BC>("A", "A B", 0.0);
   fixed.fixed = true;
   BC suppressed = fixed;
   EXPECT_EQ(Refusal([&] { fixed.Insert("B", WithU1(1.0)); }), Words(16));
   suppressed.Initialize(Steps("A B!"));
   EXPECT_EQ(Refusal([&] { suppressed.Insert("B", WithU1(1.0)); }), passes);
-  BC field = Created("A", "A");
+  BC field = Created<BC>("A", "A");
   field.distribution = BC::FIELD;
   EXPECT_EQ(Refusal([&] { field.AssertValid(); }), Words(60));
   field.Suppress(false, false);

@@ -7,48 +7,13 @@
 
 namespace {
 
-constexpr char const* passes = "passes";
+using namespace over_steps;
 
-std::string Words(int error) {
-  return Refusal([error] { kbcC_Assert(false, error); });
-}
-
-/// "magnitude=2 dof=11,12": gives values as a script does.
-template <class Object>
-void Give(Object& object, std::string const& values) {
-  std::istringstream words(values);
-  for (std::string word; words >> word;) {
-    std::size_t const equals = word.find('=');
-    cls_Attribute const* const attribute = object.DynAttributes().Find(word.substr(0, equals));
-    ASSERT_NE(attribute, nullptr) << object.DynAttributes().Name().CStr() << " has no " << word;
-    auto* const propagating = dynamic_cast<mdl_PropAttrBase*>(attribute->Embedded(object));
-    std::string const value = word.substr(equals + 1);
-    ASSERT_TRUE(propagating != nullptr ? propagating->SetValueText(value) : attribute->SetText(object, value)) << word;
-  }
-}
+auto& Words = WordsOf<kbcC_BC>;
 
 template <class BC>
-using StateOf = std::remove_cvref_t<decltype(std::declval<BC const&>().ConstGetState(cow_String()))>;
-
-template <class BC>
-StateOf<BC> State(std::string const& values) {
-  StateOf<BC> state;
-  Give(state, values);
-  return state;
-}
-
-/// A condition that step A creates, over no steps yet.
-template <class BC>
-BC Created(std::string const& object, std::string const& state, char const* step = "A") {
-  BC bc;
-  Give(bc, object);
-  bc.Insert(step, State<BC>(state));
-  return bc;
-}
-
-template <class BC>
-BC Over(std::string const& plan, std::string const& object, std::string const& state, char const* step = "A") {
-  BC bc = Created<BC>(object, state, step);
+BC Over(std::string const& plan, std::string const& attributes, std::string const& values, char const* step = "A") {
+  BC bc = Made<BC>(attributes, values, step);
   bc.Initialize(Steps(plan));
   return bc;
 }
@@ -125,14 +90,14 @@ TEST(OtherConditionsTest, EachKindLivesInAModel) {
     cls_AttributeTable const& table = TableOf(kind.name);
     auto const bc = New<kbcC_BC>(table);
     auto const state = New<kbcC_BCState>(*table.StepState());
-    Give(*bc, kind.object);
-    Give(*state, kind.state);
+    SetAttributes(*bc, kind.object);
+    SetAttributes(*state, kind.state);
     bc->Insert(kind.createStep, *state);
     ASSERT_EQ(Refusal([&] { model.Insert(kind.name, *bc); }), passes);
     kbcC_BC& stored = model.Get(kind.name);
     if (kind.editStep != nullptr) {
       std::unique_ptr<kbcC_BCState> const edit(static_cast<kbcC_BCState const*>(stored.StateIn(kind.editStep))->Copy());
-      Give(*edit, kind.edit);
+      SetAttributes(*edit, kind.edit);
       ASSERT_EQ(Refusal([&] { stored.Insert(kind.editStep, *edit); }), passes);
     }
     EXPECT_EQ(Digits(stored), kind.history);
@@ -162,78 +127,60 @@ TEST(OtherConditionsTest, EveryLabelIsOfAConditionThatCanBeMade) {
 
 // ---- what each kind refuses
 
-template <class BC>
-struct Refused {
-  int error;  ///< 0: passes
-  char const* plan;
-  char const* object;
-  char const* state;
-  char const* createStep = "A";
-};
-
-template <class BC>
-void CheckRefusals(std::initializer_list<Refused<BC>> rows) {
-  for (auto const& row : rows) {
-    EXPECT_EQ(Refusal([&] { Over<BC>(row.plan, row.object, row.state, row.createStep); }),
-              row.error == 0 ? passes : Words(row.error))
-        << BC::Attributes().Name().CStr() << ", " << row.plan << ", " << row.object << ", " << row.state;
-  }
-}
-
 TEST(OtherConditionsTest, RefuseWhatTheirKindDoes) {
-  CheckRefusals<kbcC_PorePressureBC>({
-      {0, "A", "fixed=true", "magnitude=0"},
-      {16, "A", "fixed=true", "magnitude=1"},
-      {0, "A!", "fixed=true", "magnitude=1"},
-      {25, "A", "fixed=true", "magnitude=0", "Initial"},
-      {16, "A", "fixed=true", "magnitude=1", "Initial"},
-      {6, "A", "", "magnitude=1", "Initial"},
-      {0, "A", "", "magnitude=0", "Initial"},
-      {60, "A", "distribution=FIELD fixed=true", "magnitude=1"},
-      {0, "A", "fixed=true suppressionState=SUPPRESSED_ATTRIBUTE", "magnitude=1"},
+  ExpectRefused<kbcC_PorePressureBC>({
+      {0, "fixed=true", "magnitude=0"},
+      {16, "fixed=true", "magnitude=1"},
+      {0, "fixed=true", "magnitude=1", "A!"},
+      {25, "fixed=true", "magnitude=0", "A", "Initial"},
+      {16, "fixed=true", "magnitude=1", "A", "Initial"},
+      {6, "", "magnitude=1", "A", "Initial"},
+      {0, "", "magnitude=0", "A", "Initial"},
+      {60, "distribution=FIELD fixed=true", "magnitude=1"},
+      {0, "fixed=true suppressionState=SUPPRESSED_ATTRIBUTE", "magnitude=1"},
   });
-  CheckRefusals<kbcC_TemperatureBC>({
-      {0, "A:H", "useExtendedDof=true", "dof=11,31"},
-      {43, "A:H", "useExtendedDof=true", "dof=11,32"},
-      {43, "A:H", "", "dof=10"},
-      {40, "A:H", "useExtendedDof=true", "magnitude=1"},
-      {0, "A:H!", "useExtendedDof=true", "magnitude=1"},
-      {16, "A:H", "useExtendedDof=true fixed=true", "magnitude=1"},
-      {45, "A", "", "magnitude=1"},
+  ExpectRefused<kbcC_TemperatureBC>({
+      {0, "useExtendedDof=true", "dof=11,31", "A:H"},
+      {43, "useExtendedDof=true", "dof=11,32", "A:H"},
+      {43, "", "dof=10", "A:H"},
+      {40, "useExtendedDof=true", "magnitude=1", "A:H"},
+      {0, "useExtendedDof=true", "magnitude=1", "A:H!"},
+      {16, "useExtendedDof=true fixed=true", "magnitude=1", "A:H"},
+      {45, "", "magnitude=1"},
   });
-  CheckRefusals<kbcC_SubmodelBC>({{0, "A", "", "dof=1"}, {45, "A:F", "", "dof=1"}, {45, "A", "", "dof=1", "Initial"}});
-  CheckRefusals<kbcC_SecondaryBaseBC>({
-      {91, "A:F", "dofs=1", ""},
-      {92, "A:F", "regions=left,right dofs=1,2", ""},
-      {92, "A:F", "regions=left dofs=1;2", ""},
-      {94, "A:F", "regions=left dofs=7,2,3,4,5,6,7", ""},
-      {93, "A:F", "regions=left,right dofs=1,2,3,4,5,6;7", ""},
-      {0, "A:F", "regions=left,right dofs=1,2,3,4,5,6;0", ""},
-      {45, "A", "dofs=1", ""},
+  ExpectRefused<kbcC_SubmodelBC>({{0, "", "dof=1"}, {45, "", "dof=1", "A:F"}, {45, "", "dof=1", "A", "Initial"}});
+  ExpectRefused<kbcC_SecondaryBaseBC>({
+      {91, "dofs=1", "", "A:F"},
+      {92, "regions=left,right dofs=1,2", "", "A:F"},
+      {92, "regions=left dofs=1;2", "", "A:F"},
+      {94, "regions=left dofs=7,2,3,4,5,6,7", "", "A:F"},
+      {93, "regions=left,right dofs=1,2,3,4,5,6;7", "", "A:F"},
+      {0, "regions=left,right dofs=1,2,3,4,5,6;0", "", "A:F"},
+      {45, "dofs=1", ""},
   });
-  CheckRefusals<kbcC_MagneticVectorPotentialBC>({
-      {0, "A:h", "distribution=USER_DEFINED", "component1=1"},
-      {90, "A:h", "distribution=FIELD", "component1=1"},
-      {90, "A:h", "distribution=DISCRETE_FIELD fieldName=wind", "component1=1"},
+  ExpectRefused<kbcC_MagneticVectorPotentialBC>({
+      {0, "distribution=USER_DEFINED", "component1=1", "A:h"},
+      {90, "distribution=FIELD", "component1=1", "A:h"},
+      {90, "distribution=DISCRETE_FIELD fieldName=wind", "component1=1", "A:h"},
   });
-  CheckRefusals<kbcC_EulerianBC>({
-      {106, "A:E", "", "inflowType=VOID outflowType=NONE"},
-      {106, "A:E", "", "outflowType=NONE"},
-      {0, "A:E", "", "inflowType=NONE outflowType=NONE"},
-      {45, "A:P", "", ""},
-      {45, "A:F", "", ""},
+  ExpectRefused<kbcC_EulerianBC>({
+      {106, "", "inflowType=VOID outflowType=NONE", "A:E"},
+      {106, "", "outflowType=NONE", "A:E"},
+      {0, "", "inflowType=NONE outflowType=NONE", "A:E"},
+      {45, "", "", "A:P"},
+      {45, "", "", "A:F"},
   });
-  CheckRefusals<kbcC_EulerianMotionBC>({
-      {0, "A:E", "", "expansionRatio1=1 contractionRatio2=0 contractionRatio3=1 aspectRatioLimit=1 bufferSize=0"},
-      {70, "A:E", "", "expansionRatio3=0.5"},
-      {71, "A:E", "", "contractionRatio1=-0.5"},
-      {71, "A:E", "", "contractionRatio1=1.5"},
-      {72, "A:E", "", "aspectRatioLimit=0.5"},
-      {73, "A:E", "", "displacementTolerance=-1"},
-      {74, "A:E", "", "volumeThreshold=1.5"},
-      {75, "A:E", "", "bufferSize=-1"},
+  ExpectRefused<kbcC_EulerianMotionBC>({
+      {0, "", "expansionRatio1=1 contractionRatio2=0 contractionRatio3=1 aspectRatioLimit=1 bufferSize=0", "A:E"},
+      {70, "", "expansionRatio3=0.5", "A:E"},
+      {71, "", "contractionRatio1=-0.5", "A:E"},
+      {71, "", "contractionRatio1=1.5", "A:E"},
+      {72, "", "aspectRatioLimit=0.5", "A:E"},
+      {73, "", "displacementTolerance=-1", "A:E"},
+      {74, "", "volumeThreshold=1.5", "A:E"},
+      {75, "", "bufferSize=-1", "A:E"},
   });
-  CheckRefusals<kbcC_RetainedNodalDofsBC>({{0, "A:u", "", "u1=true"}, {45, "A", "", "u1=true"}});
+  ExpectRefused<kbcC_RetainedNodalDofsBC>({{0, "", "u1=true", "A:u"}, {45, "", "u1=true"}});
 }
 
 TEST(OtherConditionsTest, HeldQuantitiesDoNotMoveToTheFirstAnalysisStep) {
@@ -242,9 +189,9 @@ TEST(OtherConditionsTest, HeldQuantitiesDoNotMoveToTheFirstAnalysisStep) {
     bc.Initialize(Steps("A:E B:E"));
     return Refusal([&] { bc.Move("B", "A"); });
   };
-  EXPECT_EQ(moved(Created<kbcC_AcousticPressureBC>("", "magnitude=0", "B")), Words(107));
+  EXPECT_EQ(moved(Made<kbcC_AcousticPressureBC>("", "magnitude=0", "B")), Words(107));
   // Cavities are no such quantity.
-  EXPECT_EQ(moved(Created<kbcC_FluidCavityPressureBC>("", "magnitude=0", "B")), passes);
+  EXPECT_EQ(moved(Made<kbcC_FluidCavityPressureBC>("", "magnitude=0", "B")), passes);
 }
 
 TEST(OtherConditionsTest, EulerianBoundariesHaveNoPlaceInPerturbations) {
@@ -271,7 +218,7 @@ TEST(TemperatureBCTest, IsBuiltIntoPerturbations) {
   EXPECT_FALSE(bc.HasStep("B"));
   EXPECT_EQ(bc.GetMagReal("F"), 5.0);
   // Nothing is there to edit: an edit is dropped, a deactivation has no effect.
-  bc.Insert("B", State<BC>("magnitude=7"));
+  bc.Insert("B", StateWith<BC>("magnitude=7"));
   bc.Deactivate("B");
   EXPECT_EQ(Statuses(bc), settled);
   EXPECT_EQ(bc.StateIn("B"), nullptr);
@@ -280,18 +227,7 @@ TEST(TemperatureBCTest, IsBuiltIntoPerturbations) {
   EXPECT_EQ(Statuses(bc), settled);
   EXPECT_EQ(Refusal([&] { bc.ValidInALoadCase("D", true); }), Words(48));
 
-  std::set<int> const active{1, 2, 3, 8};
-  for (int status = 0; status < 17; ++status) {
-    auto const value = static_cast<mdl_PropagationStatusEnm>(status);
-    std::string const words = status <= 8 ? passes : Words(47);
-    bool isActive = false, isPropagated = false, isBuiltIn = false;
-    EXPECT_EQ(Refusal([&] { isActive = bc.IsActive(value); }), words) << status;
-    EXPECT_EQ(Refusal([&] { isPropagated = bc.IsPropagated(value); }), words) << status;
-    EXPECT_EQ(Refusal([&] { isBuiltIn = bc.IsBuiltIn(value); }), words) << status;
-    EXPECT_EQ(isActive, active.contains(status)) << status;
-    EXPECT_EQ(isPropagated, status == 2) << status;
-    EXPECT_EQ(isBuiltIn, status == 8) << status;
-  }
+  ExpectPredicates(bc, {0, 1, 2, 3, 4, 5, 6, 7, 8}, 47, {{1, 2, 3, 8}, {2}, {8}});
   // The predicates that are no kind's own do not know the status.
   EXPECT_EQ(Refusal([] { BC::IsModified(STATUS_BUILT_IN); }), Words(47));
   EXPECT_EQ(Refusal([] { kbcC_PorePressureBC().IsActive(STATUS_BUILT_IN); }), Words(47));
@@ -306,7 +242,7 @@ TEST(TemperatureBCTest, UpdateDropsAmplitudesOutsideTime) {
   BC inTime = Over<BC>("A:H", "", "magnitude=1 amplitude=ramp");
   inTime.UpdateStates();
   EXPECT_EQ(inTime.ConstGetState("A").amplitude.ConstGet(), "ramp");
-  BC elsewhere = Created<BC>("", "magnitude=1");
+  BC elsewhere = Made<BC>("", "magnitude=1");
   elsewhere.ForcedInitialize(Steps("A"));
   EXPECT_EQ(Refusal([&] { elsewhere.UpdateStates(); }), Words(45));
 }
@@ -315,7 +251,7 @@ TEST(TemperatureBCTest, UpdateDropsAmplitudesOutsideTime) {
 
 TEST(DistributedBCTest, GivesTheMagnitudeThatTheProcedureUses) {
   kbcC_AcousticPressureBC bc = Over<kbcC_AcousticPressureBC>("A:E B:D C:F", "", "magnitude=2");
-  bc.Insert("B", State<kbcC_AcousticPressureBC>("complexMagReal=3 complexMagImag=-4"));
+  bc.Insert("B", StateWith<kbcC_AcousticPressureBC>("complexMagReal=3 complexMagImag=-4"));
   kbcC_DistributedBC const& distributed = bc;
   EXPECT_EQ(distributed.GetMagReal("A"), 2.0);
   EXPECT_EQ(distributed.GetMagImag("A"), -1.7976931348623157e308);
@@ -335,14 +271,14 @@ TEST(TypeBCTest, KeepsItsTypeFromTheStepThatGaveIt) {
   BC bc = Over<BC>("A B:b C", "", "typeName=ENCASTRE");
   // The perturbation starts from zero displacements, and these stay held.
   EXPECT_EQ(bc.ConstGetState("B").typeName.ConstGet(), BC::TypeNameEnm::ENCASTRE);
-  bc.Insert("B", State<BC>("buckleCase=BUCKLING_MODES"));
+  bc.Insert("B", StateWith<BC>("buckleCase=BUCKLING_MODES"));
   EXPECT_EQ(Statuses(bc), (std::vector<int>{0, 1, 10, 2}));
   EXPECT_EQ(bc.ConstGetState("C").buckleCase, kbcC_BucklingCaseEnm::NOT_APPLICABLE);
   for (char const* step : {"B", "C"}) {
     BC edited = bc;
-    EXPECT_EQ(Refusal([&] { edited.Insert(step, State<BC>("typeName=PINNED")); }), Words(46)) << step;
+    EXPECT_EQ(Refusal([&] { edited.Insert(step, StateWith<BC>("typeName=PINNED")); }), Words(46)) << step;
   }
-  bc.Insert("A", State<BC>("typeName=PINNED"));
+  bc.Insert("A", StateWith<BC>("typeName=PINNED"));
   EXPECT_EQ(bc.ConstGetState("C").typeName.ConstGet(), BC::TypeNameEnm::PINNED);
   bc.Deactivate("C");
   bc.Reset("C");
@@ -384,6 +320,7 @@ TEST(SubmodelBCTest, CarriesTheGlobalStepOfAnEdit) {
   bc.Remove("B");
   EXPECT_EQ(globalSteps(bc), "4 4 4 ");
   EXPECT_EQ(Refusal([&] { bc.ValidInALoadCase("A", true); }), Words(50));
+  EXPECT_EQ(Refusal([] { Made<BC>("", "dof=1").AssertValid(); }), passes) << "it has not met its steps";
 }
 
 TEST(SecondaryBaseBCTest, GivesItsRegions) {

@@ -22,8 +22,10 @@ class TVO_API kbcC_AccelerationBC final : public kbcC_ComponentBC<kbcC_BC, kbcC_
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
   bool ValidInPerturbationStep(int procedure, bool flag) const override;
-  void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "AccelerationBC")
   KBCC_SIX_COMPONENTS(a1, A1, a2, A2, a3, A3, ar1, AR1, ar2, AR2, ar3, AR3)
+
+ protected:
+  void AssertKind() const override;
 };

@@ -2,6 +2,7 @@
 
 #include "kbcC_BaseMotionBC.h"
 
+/// An acceleration of the base in one step.
 class TVO_API kbcC_AccelerationBaseMotionBCState final : public kbcC_BaseMotionBCState {
   CLS_PERSISTENT(kbcC, kbcC_AccelerationBaseMotionBCState)
 

@@ -38,6 +38,7 @@ struct TVO_API kbcC_Family {
   static void Assert(bool condition, int error) { kbcC_Assert(condition, error); }
   /// Refuses a step in which the object has nothing in force, in words that name its status there.
   [[noreturn]] static void RefuseStep(mdl_PropagationStatusEnm status, cow_String const& step);
+  /// Under which scripts know the conditions of a model, and the menus of a step of that procedure.
   static char const* RepositoryName() noexcept;
   static cow_List<kprC_OfferedMenu> OfferedTypes(int procedure);
 };
@@ -50,6 +51,7 @@ class TVO_API kbcC_BC : public kprC_StepDependent<kbcC_Family> {
   CLS_ABSTRACT(kbcC, kbcC_BC)
 
  public:
+  /// What the condition prescribes. Not the menu that offers it: several categories share one.
   enum CategoryEnm {
     MECHANICAL = 0,
     THERMAL = 1,
@@ -60,6 +62,7 @@ class TVO_API kbcC_BC : public kprC_StepDependent<kbcC_Family> {
     ELECTROCHEMICAL = 6,
     OTHER_BC = 7,
   };
+  /// How the values are given over the region.
   enum DistribTypeEnum { UNIFORM = 0, USER_DEFINED = 1, FIELD = 2, DISCRETE_FIELD = 3 };
 
   virtual CategoryEnm Category() const = 0;
@@ -73,37 +76,14 @@ class TVO_API kbcC_BC : public kprC_StepDependent<kbcC_Family> {
   /// Whether a field gives the distribution; `name` receives its name, or is emptied.
   bool UsesField(cow_String& name) const;
 
+  void AssertValid() const override;
   using kprC_StepDependent::ValidInStep;
   bool ValidInStep(int procedure, bool flag, bool relax, int firstProcedure) const override;
 
   KPRC_NAMED_CMD(bcCmd, "boundaryCondition")
   KPRC_NAMED_CMD(bcRepositoryCmd, "boundaryConditions")
-  KPRC_CMD(name)
-  KPRC_CMD(category)
-  KPRC_CMD(region)
-  KPRC_NAMED_CMD(csysCmd, "localCsys")
-  KPRC_CMD(amplitude)
-  KPRC_CMD(amplitudeState)
-  KPRC_CMD(status)
-  KPRC_NAMED_CMD(setParametersCmd, "setValues")
-  KPRC_NAMED_CMD(modifyParametersCmd, "setValuesInStep")
-  KPRC_CMD(deactivate)
-  KPRC_CMD(history)
-  KPRC_CMD(createStepName)
-  KPRC_CMD(stepName)
-  KPRC_CMD(fromStepName)
-  KPRC_CMD(toStepName)
-  KPRC_CMD(move)
-  KPRC_CMD(reset)
-  KPRC_CMD(suppress)
-  KPRC_CMD(suppressed)
-  KPRC_CMD(resume)
   KPRC_NAMED_CMD(copyConstructorCmd, "BoundaryCondition")
-  KPRC_NAMED_CMD(globalCsysName, "(Global)")
   KPRC_NAMED_CMD(upgradeBCMDBCmd, "_upgradeBcMdb")
-  KPRC_CMD(distribution)
-  KPRC_CMD(distributionType)
-  KPRC_CMD(fieldName)
 
   rgnC_Region region;
   dtmC_DatumRef csys;
@@ -113,6 +93,8 @@ class TVO_API kbcC_BC : public kprC_StepDependent<kbcC_Family> {
  protected:
   void AssertDefinition() const override;
   void AssertCreateStep(int procedure) const override;
+  /// Last test of AssertValid: what a kind of condition refuses besides.
+  virtual void AssertKind() const {}
   /// A condition that holds what is there cannot go to where nothing is there yet.
   void AssertMove(Quad const& from, Quad const& to) const override;
   /// Whether the condition holds its region at what it finds there; true for some kinds with a "fixed" flag.

@@ -16,6 +16,7 @@ class TVO_API kbcC_BaseMotionBC : public kbcC_BC {
   CLS_ABSTRACT(kbcC, kbcC_BaseMotionBC)
 
  public:
+  /// The direction of the motion: a translation or a rotation.
   enum BaseMotionDofEnm { U1 = 0, U2 = 1, U3 = 2, UR1 = 3, UR2 = 4, UR3 = 5 };
 
   CategoryEnm Category() const override { return MECHANICAL; }
@@ -23,8 +24,6 @@ class TVO_API kbcC_BaseMotionBC : public kbcC_BC {
   bool ValidInPerturbationStep(int procedure, bool flag) const override;
   /// Whether a step of that procedure takes correlations.
   static bool AllowCorrelation(int procedure);
-  /// Refuses a distribution by a discrete field, and what the procedures of the steps do not take.
-  void AssertValid() const override;
   /// Refuses what a step of that procedure does not take and what it lacks, `state` being what the motion holds there:
   /// 96 to 101.
   void ProcedureAssertValid(int procedure, kbcC_BaseMotionBCState const& state) const;
@@ -42,6 +41,12 @@ class TVO_API kbcC_BaseMotionBC : public kbcC_BC {
   bool useComplex = false;
   cls_xp1DArrayListString correlation;                         ///< names of correlation PSD definitions
   cls_xp1DArrayListDouble centerOfRotation = {0.0, 0.0, 0.0};  ///< coordinates, in units of length
+
+ protected:
+  /// Refuses a distribution by a discrete field.
+  void AssertDefinition() const override;
+  /// Refuses what the procedures of the steps do not take.
+  void AssertKind() const override;
 };
 
 template <>

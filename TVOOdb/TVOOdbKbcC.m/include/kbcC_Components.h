@@ -119,9 +119,8 @@ using kbcC_ComponentBC = kprC_ComponentAccess<Base, S>;
   KPRC_COMPONENT_GETTERS(R1, 3)                                             \
   KPRC_COMPONENT_GETTERS(R2, 4)                                             \
   KPRC_COMPONENT_GETTERS(R3, 5)                                             \
-  KPRC_CMD(c1) KPRC_CMD(c2) KPRC_CMD(c3) KPRC_CMD(r1) KPRC_CMD(r2) KPRC_CMD(r3) \
-  KPRC_CMD(c1##State) KPRC_CMD(c2##State) KPRC_CMD(c3##State)               \
-  KPRC_CMD(r1##State) KPRC_CMD(r2##State) KPRC_CMD(r3##State)
+  KPRC_VALUE_CMD(c1) KPRC_VALUE_CMD(c2) KPRC_VALUE_CMD(c3)                  \
+  KPRC_VALUE_CMD(r1) KPRC_VALUE_CMD(r2) KPRC_VALUE_CMD(r3)
 
 /// The values of a prescribed displacement: real components, and complex ones for the procedures that use these. Which
 /// form is in force depends on the step's procedure.
@@ -141,9 +140,10 @@ class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValu
     buckleCase = kbcC_BucklingCaseEnm::NOT_APPLICABLE;
   }
   bool IsModified() const override {
-    // Callers rely on just this list: cU3 and cUR2 take no part.
+    // Callers rely on just this list: cU3 and cUR2 take no part. So the class between, which asks all, is left out.
     bool const complex =
         !cU1.IsZero() || !cU2.IsZero() || !cU1.IsZero() || !cUR1.IsZero() || !cU1.IsZero() || !cUR3.IsZero();
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return Base::IsModified() || complex || buckleCase != kbcC_BucklingCaseEnm::NOT_APPLICABLE;
   }
 
@@ -155,18 +155,16 @@ class kbcC_DisplacementValues : public kbcC_ComponentState<kbcC_DisplacementValu
 template <class Base, class S>
 class kbcC_HeldDisplacement : public kbcC_ComponentBC<Base, S> {
  public:
-  void AssertValid() const override {
-    if (this->suppressionState != RESUMED) {
-      return;
-    }
-    Base::AssertValid();
+  bool AllowedInFlow() const override { return !fixed && Base::AllowedInFlow(); }
+
+  bool fixed = false;
+
+ protected:
+  void AssertKind() const override {
+    Base::AssertKind();
     if (fixed) {
       kbcC_AssertHeld<S>(this->states);
     }
     kbcC_AssertZeroInitially<S>(this->states);
   }
-
-  bool AllowedInFlow() const override { return !fixed && Base::AllowedInFlow(); }
-
-  bool fixed = false;
 };

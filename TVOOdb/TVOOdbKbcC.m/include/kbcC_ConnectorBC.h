@@ -26,12 +26,14 @@ class TVO_API kbcC_ConnectorBC : public kbcC_BC {
   bool AllowedInALoadCase() const override { return true; }
   bool NYIForLoadCase() const override { return true; }
   bool ValidInPerturbationStep(int procedure, bool flag) const override;
-  /// Refuses an object without connectors, and values for components that these have not got.
-  void AssertValid() const override;
 
   KPRC_CMD(fastenerName)
   KPRC_CMD(fastenerSetName)
 
   cow_String fastenerName;
   cow_String fastenerSetName;
+
+ protected:
+  /// Refuses an object without connectors, and values for components that these have not got.
+  void AssertKind() const override;
 };

@@ -7,8 +7,7 @@ class TVO_API kbcC_DistributedBCState : public kbcC_ComponentState<kbcC_Distribu
   CLS_ABSTRACT(kbcC, kbcC_DistributedBCState)
 
  public:
-  KPRC_CMD(magnitude)
-  KPRC_CMD(magnitudeState)
+  KPRC_VALUE_CMD(magnitude)
 
   mdl_PropAttr<double> magnitude;
   static constexpr std::array<mdl_PropAttr<double> kbcC_DistributedBCState::*, 1> Components() {
@@ -28,8 +27,8 @@ class TVO_API kbcC_ComplexMagnitudeState
 
 /// Prescribes one field quantity over a region: a temperature, a pressure, a potential, a concentration.
 ///
-/// Refuses a magnitude in the initial step, any where the quantity is held at what it is ("fixed"), and to hold it from
-/// the initial step on, where there is nothing yet.
+/// Refuses a magnitude other than zero in the initial step, 6; where the quantity is held at what it is ("fixed"), any
+/// magnitude other than zero, 16, and a state in the initial step, where there is nothing yet to hold, 25.
 class TVO_API kbcC_DistributedBC : public kbcC_StateAccess<kbcC_BC, kbcC_DistributedBCState> {
   CLS_ABSTRACT(kbcC, kbcC_DistributedBC)
 
@@ -44,13 +43,13 @@ class TVO_API kbcC_DistributedBC : public kbcC_StateAccess<kbcC_BC, kbcC_Distrib
 
   bool AllowedInALoadCase() const override { return true; }
   bool ValidInPerturbationStep(int procedure, bool flag) const override;
-  void AssertValid() const override;
 
   KPRC_CMD(fixed)
 
   bool fixed = false;
 
  protected:
+  void AssertKind() const override;
   bool IsHeldInPlace() const override { return fixed; }
 };
 

@@ -18,12 +18,14 @@ inline constexpr omu_EnumRow omu_EnumRows<kbcC_BucklingCaseEnm>[] = {{"NOT_APPLI
                                                                      {"PERTURBATION_AND_BUCKLING", 3},
                                                                      {nullptr, 0}};
 
+/// What an inlet or outlet prescribes of the energy.
 enum class kbcC_EnergyEquationTypeEnm { ENERGY_NONE = 0, TEMPERATURE = 1 };
 
 template <>
 inline constexpr omu_EnumRow omu_EnumRows<kbcC_EnergyEquationTypeEnm>[] = {
     {"ENERGY_NONE", 0}, {"TEMPERATURE", 1}, {nullptr, 0}};
 
+/// The model of turbulence whose quantities are prescribed.
 enum class kbcC_TurbulenceTypeEnm { TURB_NONE = 0, SPALART = 1, KEPS_RNG = 2, VMS = 3 };
 
 template <>

@@ -11,9 +11,9 @@ class TVO_API kbcC_EulerianBCState final : public kbcC_BCState {
   /// Refuses a boundary that lets material in but not out: 106.
   void AssertValid() const override;
   KPRC_NAMED_CMD(pythonTypeName, "EulerianBCState")
-  KPRC_CMD(definition)
-  KPRC_CMD(inflowType)
-  KPRC_CMD(outflowType)
+  KPRC_VALUE_CMD(definition)
+  KPRC_VALUE_CMD(inflowType)
+  KPRC_VALUE_CMD(outflowType)
 
   mdl_PropAttr<kbcC_EulerianDefinitionEnm> definition;
   mdl_PropAttr<kbcC_EulerianInflowEnm> inflowType;

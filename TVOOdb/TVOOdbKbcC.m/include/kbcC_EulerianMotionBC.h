@@ -12,12 +12,13 @@ class TVO_API kbcC_EulerianMotionBCState final : public kbcC_BCState {
   /// Refuses numbers that are given beyond their ranges: 70 to 75.
   void AssertValid() const override;
   KPRC_NAMED_CMD(pythonTypeName, "EulerianMotionBCState")
-  KPRC_CMD(ctrPosition1) KPRC_CMD(ctrPosition2) KPRC_CMD(ctrPosition3)
-  KPRC_CMD(posPosition1) KPRC_CMD(posPosition2) KPRC_CMD(posPosition3)
-  KPRC_CMD(negPosition1) KPRC_CMD(negPosition2) KPRC_CMD(negPosition3)
-  KPRC_CMD(expansionRatio1) KPRC_CMD(expansionRatio2) KPRC_CMD(expansionRatio3)
-  KPRC_CMD(contractionRatio1) KPRC_CMD(contractionRatio2) KPRC_CMD(contractionRatio3)
-  KPRC_CMD(aspectRatioLimit) KPRC_CMD(displacementTolerance) KPRC_CMD(volumeThreshold) KPRC_CMD(bufferSize)
+  KPRC_VALUE_CMD(ctrPosition1) KPRC_VALUE_CMD(ctrPosition2) KPRC_VALUE_CMD(ctrPosition3)
+  KPRC_VALUE_CMD(posPosition1) KPRC_VALUE_CMD(posPosition2) KPRC_VALUE_CMD(posPosition3)
+  KPRC_VALUE_CMD(negPosition1) KPRC_VALUE_CMD(negPosition2) KPRC_VALUE_CMD(negPosition3)
+  KPRC_VALUE_CMD(expansionRatio1) KPRC_VALUE_CMD(expansionRatio2) KPRC_VALUE_CMD(expansionRatio3)
+  KPRC_VALUE_CMD(contractionRatio1) KPRC_VALUE_CMD(contractionRatio2) KPRC_VALUE_CMD(contractionRatio3)
+  KPRC_VALUE_CMD(aspectRatioLimit) KPRC_VALUE_CMD(displacementTolerance)
+  KPRC_VALUE_CMD(volumeThreshold) KPRC_VALUE_CMD(bufferSize)
 
   /// The mesh's centre, and its faces towards the positive and negative end of an axis.
   mdl_PropAttr<kbcC_EulerianPositionEnm> ctrPosition1, ctrPosition2, ctrPosition3;

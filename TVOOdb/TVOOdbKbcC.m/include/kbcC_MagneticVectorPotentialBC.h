@@ -31,16 +31,17 @@ class TVO_API kbcC_MagneticVectorPotentialBC final
   kbcC_MagneticVectorPotentialBC() = default;
   CategoryEnm Category() const override { return ELECTRICAL; }
   bool ValidInPerturbationStep(int, bool) const override { return false; }
-  /// Refuses a distribution by a field: 90.
-  void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "MagneticVectorPotentialBC")
   KPRC_COMPONENT_GETTERS(Component1, 0)
   KPRC_COMPONENT_GETTERS(Component2, 1)
   KPRC_COMPONENT_GETTERS(Component3, 2)
-  KPRC_CMD(component1) KPRC_CMD(component2) KPRC_CMD(component3)
-  KPRC_CMD(component1State) KPRC_CMD(component2State) KPRC_CMD(component3State)
+  KPRC_VALUE_CMD(component1) KPRC_VALUE_CMD(component2) KPRC_VALUE_CMD(component3)
   KPRC_CMD(fixed)
 
-  bool fixed = false;
+  bool fixed = false;  ///< held at what it is; for the solver
+
+ protected:
+  /// Refuses a distribution by a field: 90.
+  void AssertDefinition() const override;
 };

@@ -9,7 +9,8 @@ class TVO_API kbcC_RetainedNodalDofsBCState final : public kbcC_BCState {
  public:
   kbcC_RetainedNodalDofsBCState() = default;
   KPRC_NAMED_CMD(pythonTypeName, "RetainedNodalDofsBCState")
-  KPRC_CMD(u1) KPRC_CMD(u2) KPRC_CMD(u3) KPRC_CMD(ur1) KPRC_CMD(ur2) KPRC_CMD(ur3)
+  KPRC_VALUE_CMD(u1) KPRC_VALUE_CMD(u2) KPRC_VALUE_CMD(u3)
+  KPRC_VALUE_CMD(ur1) KPRC_VALUE_CMD(ur2) KPRC_VALUE_CMD(ur3)
 
   mdl_PropAttr<bool> u1, u2, u3, ur1, ur2, ur3;
 };

@@ -12,10 +12,10 @@ class TVO_API kbcC_SubmodelBCState final : public kbcC_BCState {
   KPRC_NAMED_CMD(pythonTypeName, "SubmodelBCState")
   KPRC_CMD(globalStep)
   KPRC_CMD(globalIncrement)
-  KPRC_CMD(dof)
-  KPRC_CMD(dofState)
-  KPRC_CMD(centerZoneSize)
-  KPRC_CMD(scale)
+  KPRC_VALUE_CMD(fixed)
+  KPRC_VALUE_CMD(dof)
+  KPRC_VALUE_CMD(centerZoneSize)
+  KPRC_VALUE_CMD(scale)
 
   mdl_PropAttr<bool> fixed;             ///< held at what the step before left
   cow_String globalStep;                ///< name or number of the step in the global analysis
@@ -35,8 +35,6 @@ class TVO_API kbcC_SubmodelBC final : public kbcC_StateAccess<kbcC_BC, kbcC_Subm
   bool AllowedInALoadCase() const override { return true; }
   bool NYIForLoadCase() const override { return true; }
   bool ValidInPerturbationStep(int, bool) const override { return false; }
-  /// Refuses what is given in a step, the initial one included, that does not take the type: 45.
-  void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "SubmodelBC")
   KPRC_CMD(globalDrivingRegion)
@@ -48,4 +46,8 @@ class TVO_API kbcC_SubmodelBC final : public kbcC_StateAccess<kbcC_BC, kbcC_Subm
   double shellThickness = 0.0;             ///< of the global model where shells drive solids, in units of length
   double absoluteExteriorTolerance = 0.0;  ///< how far the boundary may lie outside, in units of length
   double exteriorTolerance = 0.05;         ///< the same, as a fraction of the size of an element
+
+ protected:
+  /// Refuses what is given in a step, the initial one included, that does not take the type: 45.
+  void AssertKind() const override;
 };

@@ -11,8 +11,7 @@ class TVO_API kbcC_TemperatureBCState final : public kbcC_DistributedBCState {
   /// Refuses a degree of freedom that is no temperature of a shell: 43.
   void AssertValid() const override;
   KPRC_NAMED_CMD(pythonTypeName, "TemperatureBCState")
-  KPRC_CMD(dof)
-  KPRC_CMD(dofState)
+  KPRC_VALUE_CMD(dof)
 
   mdl_PropAttr<cls_xpListInt> dof;  ///< temperatures through the thickness of a shell: 11 to 31
 };
@@ -28,8 +27,6 @@ class TVO_API kbcC_TemperatureBC final : public kbcC_MagnitudeBC<kbcC_Temperatur
   kbcC_TemperatureBC() = default;
   CategoryEnm Category() const override { return THERMAL; }
   bool ValidInPerturbationStep(int procedure, bool flag) const override;
-  /// Refuses a region of shells for which a step names no degree of freedom: 40.
-  void AssertValid() const override;
   /// Drops the amplitudes that were given in steps whose procedure knows none.
   void UpdateStates() override;
 
@@ -41,4 +38,8 @@ class TVO_API kbcC_TemperatureBC final : public kbcC_MagnitudeBC<kbcC_Temperatur
   KPRC_CMD(useExtendedDof)
 
   bool useExtendedDof = false;  ///< the region is of shells: each step names their degrees of freedom
+
+ protected:
+  /// Refuses a region of shells for which a step names no degree of freedom: 40.
+  void AssertKind() const override;
 };

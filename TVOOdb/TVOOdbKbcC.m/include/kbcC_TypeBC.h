@@ -14,8 +14,7 @@ class TVO_API kbcC_TypeBCState final : public kbcC_BCState {
   /// Whether anything but the buckling case was given in this step.
   bool IsTypeEdited() const { return kbcC_BCState::IsModified(); }
   KPRC_NAMED_CMD(pythonTypeName, "TypeBCState")
-  KPRC_CMD(typeName)
-  KPRC_CMD(typeNameState)
+  KPRC_VALUE_CMD(typeName)
   KPRC_CMD(buckleCase)
 
   mdl_PropAttr<kbcC_TypeNameEnm> typeName;
@@ -33,8 +32,10 @@ class TVO_API kbcC_TypeBC final : public kbcC_StateAccess<kbcC_BC, kbcC_TypeBCSt
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
   bool ValidInPerturbationStep(int procedure, bool flag) const override;
-  /// Refuses an edit behind the step that creates: 46. The buckling case may change.
-  void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "TypeBC")
+
+ protected:
+  /// Refuses an edit behind the step that creates: 46. The buckling case may change.
+  void AssertKind() const override;
 };

@@ -22,8 +22,10 @@ class TVO_API kbcC_VelocityBC final : public kbcC_ComponentBC<kbcC_BC, kbcC_Velo
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
   bool ValidInPerturbationStep(int procedure, bool flag) const override;
-  void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "VelocityBC")
   KBCC_SIX_COMPONENTS(v1, V1, v2, V2, v3, V3, vr1, VR1, vr2, VR2, vr3, VR3)
+
+ protected:
+  void AssertDefinition() const override;
 };

@@ -2,6 +2,7 @@
 
 #include "kbcC_BaseMotionBC.h"
 
+/// A velocity of the base in one step.
 class TVO_API kbcC_VelocityBaseMotionBCState final : public kbcC_BaseMotionBCState {
   CLS_PERSISTENT(kbcC, kbcC_VelocityBaseMotionBCState)
 

@@ -20,10 +20,6 @@ bool kbcC_AccelerationBC::ValidInPerturbationStep(int procedure, bool flag) cons
   return kbcC_MayStandIn(kbcC_PerturbationSteps::ofAcceleration, procedure, flag);
 }
 
-void kbcC_AccelerationBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
-  kbcC_BC::AssertValid();
+void kbcC_AccelerationBC::AssertKind() const {
   kbcC_AssertNoDiscreteField(*this, "Discrete Fields are not supported as Acceleration BC distributions.");
 }

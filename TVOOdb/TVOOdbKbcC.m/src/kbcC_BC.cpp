@@ -19,7 +19,7 @@ constexpr kprC_ProcedureSet ofFrequencies{Frequency, ComplexFrequency};
 
 }  // namespace
 
-kprC_StepRules const& kbcC_Family::Rules() { return kbcC_rules; }
+kprC_StepRules const& kbcC_Family::Rules() { return kbcC_Rules::all; }
 
 void kbcC_Family::RefuseStep(mdl_PropagationStatusEnm status, cow_String const& step) {
   atr_translate message("The boundary condition is %1$s in step: %2$s.", 0);
@@ -29,13 +29,6 @@ void kbcC_Family::RefuseStep(mdl_PropagationStatusEnm status, cow_String const& 
 }
 
 char const* kbcC_Family::RepositoryName() noexcept { return kbcC_BC::bcRepositoryCmd(); }
-
-cow_List<kprC_OfferedMenu> kbcC_Family::OfferedTypes(int procedure) {
-  return {{"mechanical", kbcC_getMechanicalBCTypesforStep(procedure, STANDARD_ANALYSIS, 0)},
-          {"fluid", kbcC_getFluidBCTypesforStep(procedure, STANDARD_ANALYSIS, 0)},
-          {"electrical", kbcC_getElectricalBCTypesforStep(procedure, STANDARD_ANALYSIS, 0)},
-          {"other", kbcC_getOtherBCTypesforStep(procedure, STANDARD_ANALYSIS, 0)}};
-}
 
 // ---- the state
 
@@ -81,6 +74,13 @@ bool kbcC_BC::ValidInStep(int procedure, bool flag, bool, int) const {
   }
   return kbcC_isOfferedBCTypeforStep(static_cast<int>(DynTypeId()), procedure, STANDARD_ANALYSIS) ||
          ValidInPerturbationStep(procedure, flag);
+}
+
+void kbcC_BC::AssertValid() const {
+  if (suppressionState == RESUMED) {
+    kprC_StepDependent::AssertValid();
+    AssertKind();
+  }
 }
 
 void kbcC_BC::AssertDefinition() const {

@@ -1,33 +1,24 @@
 #include "kbcC_BCTypes.h"
 
+#include "kbcC_BC.h"
 #include "kbcC_typesByStep.h"
-
-namespace {
-
-cow_List<cow_String> Menu(std::span<kprC_TypesByStepRow const> rows, int procedure, int product, TVOBasStringMode mode) {
-  return kprC_OfferedLabels(rows, kbcC_BCTypeLabelMap::Instance(), procedure, product, mode);
-}
-
-}  // namespace
+#include "kprC_StepList.h"
 
 kbcC_BCTypeLabelMap::kbcC_BCTypeLabelMap() {
   for (kprC_TypeLabelRow const& row : kbcC_TypeLabels) Insert(row.type, row.label, row.label);
 }
 
-cow_List<cow_String> kbcC_getMechanicalBCTypesforStep(int procedure, int product, TVOBasStringMode mode) {
-  return Menu(kbcC_MechanicalMenu, procedure, product, mode);
-}
+#define KBCC_MENU(Kind, rows)                                                                                      \
+  cow_List<cow_String> kbcC_get##Kind##BCTypesforStep(int procedure, int product, TVOBasStringMode mode) {         \
+    return kprC_OfferedLabels(rows, kbcC_BCTypeLabelMap::Instance(), procedure, product, mode);                    \
+  }
+KBCC_MENU(Mechanical, kbcC_Menus::mechanical)
+KBCC_MENU(Fluid, kbcC_Menus::fluid)
+KBCC_MENU(Electrical, kbcC_Menus::electrical)
+KBCC_MENU(Other, kbcC_Menus::other)
 
-cow_List<cow_String> kbcC_getFluidBCTypesforStep(int procedure, int product, TVOBasStringMode mode) {
-  return Menu(kbcC_FluidMenu, procedure, product, mode);
-}
-
-cow_List<cow_String> kbcC_getElectricalBCTypesforStep(int procedure, int product, TVOBasStringMode mode) {
-  return Menu(kbcC_ElectricalMenu, procedure, product, mode);
-}
-
-cow_List<cow_String> kbcC_getOtherBCTypesforStep(int procedure, int product, TVOBasStringMode mode) {
-  return Menu(kbcC_OtherMenu, procedure, product, mode);
+cow_List<kprC_OfferedMenu> kbcC_Family::OfferedTypes(int procedure) {
+  return kprC_OfferedMenus(kbcC_MenuTable, kbcC_BCTypeLabelMap::Instance(), procedure, STANDARD_ANALYSIS);
 }
 
 bool kbcC_isOfferedBCTypeforStep(int bcType, int procedure, int product) noexcept {

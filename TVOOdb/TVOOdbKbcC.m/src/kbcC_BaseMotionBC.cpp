@@ -37,12 +37,12 @@ bool kbcC_BaseMotionBC::ValidInPerturbationStep(int procedure, bool flag) const 
   return kbcC_MayStandIn(kbcC_PerturbationSteps::ofBaseMotion, procedure, flag);
 }
 
-void kbcC_BaseMotionBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
+void kbcC_BaseMotionBC::AssertDefinition() const {
   kbcC_AssertNoDiscreteField(*this, "Discrete Fields are not supported as BaseMotion BC distributions.");
-  kbcC_BC::AssertValid();
+  kbcC_BC::AssertDefinition();
+}
+
+void kbcC_BaseMotionBC::AssertKind() const {
   for (Quad const& quad : states) {
     if (quad.state.HasValue()) {
       ProcedureAssertValid(quad.Procedure(),

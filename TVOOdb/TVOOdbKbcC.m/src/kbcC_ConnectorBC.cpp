@@ -4,23 +4,26 @@
 
 namespace {
 
-using S = kbcC_ConnectorBCState;
-
 struct Availability {
   char const* name;
-  bool S::*available;
+  bool kbcC_ConnectorBCState::*available;
 };
 
-constexpr Availability availabilities[] = {
-    {S::corm1Cmd(), &S::corm1}, {S::corm2Cmd(), &S::corm2}, {S::corm3Cmd(), &S::corm3},
-    {S::corm4Cmd(), &S::corm4}, {S::corm5Cmd(), &S::corm5}, {S::corm6Cmd(), &S::corm6},
-};
+constexpr auto availabilities = [] {
+  using S = kbcC_ConnectorBCState;
+  return std::to_array<Availability>({{S::corm1Cmd(), &S::corm1},
+                                      {S::corm2Cmd(), &S::corm2},
+                                      {S::corm3Cmd(), &S::corm3},
+                                      {S::corm4Cmd(), &S::corm4},
+                                      {S::corm5Cmd(), &S::corm5},
+                                      {S::corm6Cmd(), &S::corm6}});
+}();
 
 }  // namespace
 
 cls_AttributeTable const& kbcC_ConnectorBCState::Attributes() {
   static auto const table = [] {
-    cls_Describe<S, kbcC_BCState> description("kbcC_ConnectorBCState", 203);
+    cls_Describe<kbcC_ConnectorBCState, kbcC_BCState> description("kbcC_ConnectorBCState", 203);
     for (Availability const& row : availabilities) {
       description.Attribute(row.name, row.available);
     }
@@ -51,17 +54,13 @@ bool kbcC_ConnectorBC::ValidInPerturbationStep(int procedure, bool flag) const {
   return kbcC_MayStandIn(kbcC_PerturbationSteps::ofComponents, procedure, flag);
 }
 
-void kbcC_ConnectorBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
-  kbcC_BC::AssertValid();
+void kbcC_ConnectorBC::AssertKind() const {
   bool const ofFastener = !fastenerName.IsEmpty() && !fastenerSetName.IsEmpty();
   kbcC_Assert(!region.IsEmpty() || ofFastener, 88);
   kbcC_Assert(region.IsEmpty() || (fastenerName.IsEmpty() && fastenerSetName.IsEmpty()), 89);
   for (Quad const& quad : states) {
     if (quad.state.HasValue() && !quad.IsStepSuppressed()) {
-      auto const& state = kprC_CheckedCast<S>(quad.state.ConstGet(), __FILE__, __LINE__);
+      auto const& state = kprC_CheckedCast<kbcC_ConnectorBCState>(quad.state.ConstGet(), __FILE__, __LINE__);
       cow_String const missing = state.UnavailableComponents(static_cast<unsigned int>(quad.Procedure()));
       kbcC_AssertContent(missing.IsEmpty(), 0, missing);
     }

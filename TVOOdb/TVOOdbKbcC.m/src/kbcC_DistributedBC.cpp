@@ -23,11 +23,7 @@ bool kbcC_DistributedBC::ValidInPerturbationStep(int procedure, bool flag) const
          kbcC_isOfferedBCTypeforStep(static_cast<int>(DynTypeId()), frequency, STANDARD_ANALYSIS);
 }
 
-void kbcC_DistributedBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
-  kbcC_BC::AssertValid();
+void kbcC_DistributedBC::AssertKind() const {
   if (fixed) {
     kbcC_AssertHeld<kbcC_DistributedBCState>(states);
     kbcC_Assert(states.First().state.IsNull(), 25);

@@ -4,9 +4,8 @@
 
 #include "cls_Describe.h"
 
-using S = kbcC_EulerianMotionBCState;
-
 cls_AttributeTable const& kbcC_EulerianMotionBCState::Attributes() {
+  using S = kbcC_EulerianMotionBCState;
   static auto const table = cls_Describe<S, kbcC_BCState>("kbcC_EulerianMotionBCState", 1382)
                                 .Attribute(3, "ctrPosition1", &S::ctrPosition1)
                                 .Attribute(4, "ctrPosition2", &S::ctrPosition2)
@@ -37,11 +36,12 @@ cls_AttributeTable const& kbcC_EulerianMotionBC::Attributes() {
                                 .Attribute(1, "materialName", &BC::materialName)
                                 .Attribute(2, "followRegion", &BC::followRegion)
                                 .Constructor(constructorCmd())
-                                .VariesBy<S>();
+                                .VariesBy<kbcC_EulerianMotionBCState>();
   return table;
 }
 
 void kbcC_EulerianMotionBCState::AssertValid() const {
+  using S = kbcC_EulerianMotionBCState;
   constexpr double noLimit = std::numeric_limits<double>::infinity();
   struct Range {
     mdl_PropAttr<double> S::*value;

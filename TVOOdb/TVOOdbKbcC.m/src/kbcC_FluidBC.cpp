@@ -2,12 +2,9 @@
 
 #include "nex_Exception.h"
 
-void kbcC_FluidBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
+void kbcC_FluidBC::AssertDefinition() const {
   kbcC_AssertNoDiscreteField(*this, RefusalTexts().noDiscreteField);
-  kbcC_BC::AssertValid();
+  kbcC_BC::AssertDefinition();
 }
 
 void kbcC_FluidBC::RefuseEdit() const {

@@ -1,26 +1,18 @@
 #include "kbcC_FluidInletOutletBC.h"
 
-#include "cls_Describe.h"
+#include "kbcC_describeComponents.h"
 
 cls_AttributeTable const& kbcC_FluidInletOutletBCState::Attributes() {
   using S = kbcC_FluidInletOutletBCState;
   static auto const table = cls_Describe<S, kbcC_BCState>("kbcC_FluidInletOutletBCState", 1528)
-                                .Attribute("dissipationRate", &S::dissipationRate)
-                                .Attribute("dissipationRateAmp", &S::dissipationRateAmp)
-                                .Attribute("eddyViscosity", &S::eddyViscosity)
-                                .Attribute("eddyViscosityAmp", &S::eddyViscosityAmp)
-                                .Attribute("kineticEnergy", &S::kineticEnergy)
-                                .Attribute("kineticEnergyAmp", &S::kineticEnergyAmp)
-                                .Attribute("pressure", &S::pressure)
-                                .Attribute("pressureAmp", &S::pressureAmp)
-                                .Attribute("temperature", &S::temperature)
-                                .Attribute("temperatureAmp", &S::temperatureAmp)
-                                .Attribute("vx", &S::vx)
-                                .Attribute("vxAmp", &S::vxAmp)
-                                .Attribute("vy", &S::vy)
-                                .Attribute("vyAmp", &S::vyAmp)
-                                .Attribute("vz", &S::vz)
-                                .Attribute("vzAmp", &S::vzAmp)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(dissipationRate)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(eddyViscosity)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(kineticEnergy)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(pressure)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(temperature)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(vx)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(vy)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(vz)
                                 .Attribute("momentumType", &S::momentumType)
                                 .Attribute("energyEquationType", &S::energyEquationType)
                                 .Attribute("turbulenceType", &S::turbulenceType);

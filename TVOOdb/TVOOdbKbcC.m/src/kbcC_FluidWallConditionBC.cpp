@@ -1,26 +1,18 @@
 #include "kbcC_FluidWallConditionBC.h"
 
-#include "cls_Describe.h"
+#include "kbcC_describeComponents.h"
 
 cls_AttributeTable const& kbcC_FluidWallConditionBCState::Attributes() {
   using S = kbcC_FluidWallConditionBCState;
   static auto const table = cls_Describe<S, kbcC_BCState>("kbcC_FluidWallConditionBCState", 1528)
-                                .Attribute("dissipationRate", &S::dissipationRate)
-                                .Attribute("dissipationRateAmp", &S::dissipationRateAmp)
-                                .Attribute("eddyViscosity", &S::eddyViscosity)
-                                .Attribute("eddyViscosityAmp", &S::eddyViscosityAmp)
-                                .Attribute("heatFlux", &S::heatFlux)
-                                .Attribute("heatFluxAmp", &S::heatFluxAmp)
-                                .Attribute("kineticEnergy", &S::kineticEnergy)
-                                .Attribute("kineticEnergyAmp", &S::kineticEnergyAmp)
-                                .Attribute("temperature", &S::temperature)
-                                .Attribute("temperatureAmp", &S::temperatureAmp)
-                                .Attribute("vx", &S::vx)
-                                .Attribute("vxAmp", &S::vxAmp)
-                                .Attribute("vy", &S::vy)
-                                .Attribute("vyAmp", &S::vyAmp)
-                                .Attribute("vz", &S::vz)
-                                .Attribute("vzAmp", &S::vzAmp)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(dissipationRate)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(eddyViscosity)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(heatFlux)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(kineticEnergy)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(temperature)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(vx)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(vy)
+                                KBCC_DESCRIBE_WITH_AMPLITUDE(vz)
                                 .Attribute("wallConditionType", &S::wallConditionType)
                                 .Attribute("thermalEnergyType", &S::thermalEnergyType)
                                 .Attribute("turbulenceType", &S::turbulenceType);

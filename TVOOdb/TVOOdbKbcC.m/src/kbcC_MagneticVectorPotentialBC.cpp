@@ -22,10 +22,7 @@ cls_AttributeTable const& kbcC_MagneticVectorPotentialBC::Attributes() {
   return table;
 }
 
-void kbcC_MagneticVectorPotentialBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
+void kbcC_MagneticVectorPotentialBC::AssertDefinition() const {
   kbcC_Assert(distribution == UNIFORM || distribution == USER_DEFINED, 90);
-  kbcC_BC::AssertValid();
+  kbcC_BC::AssertDefinition();
 }

@@ -31,11 +31,7 @@ cls_xoList<rgnC_Region> kbcC_SecondaryBaseBC::Regions(rgnC_RegionType type) cons
   return found;
 }
 
-void kbcC_SecondaryBaseBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
-  kbcC_BC::AssertValid();
+void kbcC_SecondaryBaseBC::AssertKind() const {
   kbcC_Assert(!regions.IsEmpty(), 91);
   kbcC_Assert(regions.Length() == dofs.Length(), 92);
   for (cls_xp1DArrayListInt const& ofRegion : dofs) {

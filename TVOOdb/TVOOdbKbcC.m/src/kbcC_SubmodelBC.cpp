@@ -2,9 +2,8 @@
 
 #include "cls_Describe.h"
 
-using S = kbcC_SubmodelBCState;
-
 cls_AttributeTable const& kbcC_SubmodelBCState::Attributes() {
+  using S = kbcC_SubmodelBCState;
   static auto const table = cls_Describe<S, kbcC_BCState>("kbcC_SubmodelBCState", 1015)
                                 .Attribute(0, "fixed", &S::fixed)
                                 .Attribute(1, "globalStep", &S::globalStep)
@@ -23,18 +22,16 @@ cls_AttributeTable const& kbcC_SubmodelBC::Attributes() {
                                 .Attribute(8, "absoluteExteriorTolerance", &BC::absoluteExteriorTolerance)
                                 .Attribute(9, "exteriorTolerance", &BC::exteriorTolerance)
                                 .Constructor(constructorCmd())
-                                .VariesBy<S>();
+                                .VariesBy<kbcC_SubmodelBCState>();
   return table;
 }
 
-void kbcC_SubmodelBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
-  kbcC_BC::AssertValid();
+void kbcC_SubmodelBC::AssertKind() const {
   for (Quad const& quad : states) {
+    // A new object has a name of a step and has not met its procedure.
+    bool const placed = quad.HasStep() || quad.stepName == kprC_Step::initialCmd();
     bool const given = quad.state.HasValue() && (quad.status == STATUS_CREATED || quad.state.ConstGet().IsModified());
-    if (given && !quad.IsStepSuppressed()) {
+    if (given && placed && !quad.IsStepSuppressed()) {
       kbcC_Assert(ValidInStepButRelaxCheckOnInitial(quad.Procedure(), false), 45);
     }
   }

@@ -39,11 +39,8 @@ bool kbcC_TemperatureBC::ValidInPerturbationStep(int procedure, bool flag) const
   return kbcC_MayStandIn(kbcC_PerturbationSteps::ofAcceleration, procedure, flag);
 }
 
-void kbcC_TemperatureBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
-  kbcC_DistributedBC::AssertValid();
+void kbcC_TemperatureBC::AssertKind() const {
+  kbcC_DistributedBC::AssertKind();
   for (Quad const& quad : states) {
     if (useExtendedDof && quad.state.HasValue() && !quad.IsStepSuppressed()) {
       auto const& state = kprC_CheckedCast<kbcC_TemperatureBCState>(quad.state.ConstGet(), __FILE__, __LINE__);

@@ -33,11 +33,7 @@ bool kbcC_TypeBC::ValidInPerturbationStep(int procedure, bool flag) const {
   return kbcC_MayStandIn(kbcC_PerturbationSteps::ofComponents, procedure, flag);
 }
 
-void kbcC_TypeBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
-  kbcC_BC::AssertValid();
+void kbcC_TypeBC::AssertKind() const {
   bool created = false;
   for (Quad const& quad : states) {
     if (quad.state.HasValue()) {

@@ -20,10 +20,7 @@ bool kbcC_VelocityBC::ValidInPerturbationStep(int procedure, bool flag) const {
   return kbcC_MayStandIn(kbcC_PerturbationSteps::ofComponents, procedure, flag);
 }
 
-void kbcC_VelocityBC::AssertValid() const {
-  if (suppressionState != RESUMED) {
-    return;
-  }
+void kbcC_VelocityBC::AssertDefinition() const {
   kbcC_AssertNoDiscreteField(*this, "Discrete Fields are not supported as Velocity BC distributions.");
-  kbcC_BC::AssertValid();
+  kbcC_BC::AssertDefinition();
 }

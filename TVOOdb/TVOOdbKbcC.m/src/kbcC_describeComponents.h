@@ -27,6 +27,9 @@ cls_Describe<S, Parent>&& kbcC_WithDisplacements(cls_Describe<S, Parent>&& descr
       .Attribute(19, "buckleCase", &S::buckleCase);
 }
 
+/// A value of class S and the name of its amplitude, in a chain of attributes.
+#define KBCC_DESCRIBE_WITH_AMPLITUDE(value) .Attribute(#value, &S::value).Attribute(#value "Amp", &S::value##Amp)
+
 /// The complex magnitude of a field.
 template <class S, class Parent>
 cls_Describe<S, Parent>&& kbcC_WithComplexMagnitude(cls_Describe<S, Parent>&& describe, int ordinal = 0) {

@@ -22,6 +22,7 @@ class TVO_API kloC_BodyHeatFlux final : public kprC_StateAccess<kloC_Distributed
   CategoryEnm Category() const override { return THERMAL; }
 
   KPRC_NAMED_CMD(constructorCmd, "BodyHeatFlux")
+  KPRC_VALUE_CMD(tableCollectionName)
 
  protected:
   /// Tables may give it instead.

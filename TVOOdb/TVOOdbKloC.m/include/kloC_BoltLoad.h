@@ -31,8 +31,7 @@ class TVO_API kloC_BoltLoad final : public kprC_StateAccess<kloC_Scalar, kloC_Bo
   void AssertValidPlace(bool isSolid, bool isDisjoint) const;
 
   KPRC_NAMED_CMD(constructorCmd, "BoltLoad")
-  KPRC_CMD(boltMethod)
-  KPRC_CMD(boltMethodState)
+  KPRC_VALUE_CMD(boltMethod)
   KPRC_CMD(datumAxis)
   KPRC_CMD(preTenSecPartLevel)
   KPRC_CMD(follower)

@@ -31,10 +31,10 @@ class TVO_API kloC_FluidPressurePenetration final : public kloC_ValueLoad<kloC_F
 
   KPRC_NAMED_CMD(constructorCmd, "FluidPressurePenetration")
   KLOC_MAGNITUDE_ACCESS()
-  KPRC_CMD(wettedRegion)
-  KPRC_CMD(evolutionRegionMethod)
-  KPRC_CMD(criticalPress)
-  KPRC_CMD(timePeriod)
+  KPRC_VALUE_CMD(wettedRegion)
+  KPRC_VALUE_CMD(evolutionRegionMethod)
+  KPRC_VALUE_CMD(criticalPress)
+  KPRC_VALUE_CMD(timePeriod)
 
   kloC_DistributionEnm distType = kloC_DistributionEnm::UNIFORM;
 };

@@ -19,9 +19,11 @@ class TVO_API kloC_Gravity final : public kprC_StateAccess<kloC_Vector, kloC_Gra
   kloC_Gravity() = default;
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
-  /// In an axisymmetric model there is gravity along the axis alone: 46.
-  void AssertValidInSpace(kloC_SpaceEnm space) const override;
 
   KPRC_NAMED_CMD(constructorCmd, "Gravity")
   KLOC_VECTOR_NAMES(comp1, comp2, comp3)
+
+ protected:
+  /// In an axisymmetric model there is gravity along the axis alone: 46.
+  void AssertInSpace(kloC_SpaceEnm space) const override;
 };

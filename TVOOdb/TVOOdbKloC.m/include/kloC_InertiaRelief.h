@@ -29,17 +29,18 @@ class TVO_API kloC_InertiaRelief final : public kprC_StateAccess<kloC_Load, kloC
   kloC_InertiaRelief() = default;
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
-  /// Refuses directions that the space has not got, 48 and 49, and a local system for all that it has, 50.
-  void AssertValidInSpace(kloC_SpaceEnm space) const override;
 
   KPRC_NAMED_CMD(constructorCmd, "InertiaRelief")
-  KPRC_CMD(u1) KPRC_CMD(u2) KPRC_CMD(u3) KPRC_CMD(ur1) KPRC_CMD(ur2) KPRC_CMD(ur3)
-  KPRC_CMD(fixed)
-  KPRC_CMD(referencePoint)
+  KPRC_VALUE_CMD(u1) KPRC_VALUE_CMD(u2) KPRC_VALUE_CMD(u3) KPRC_VALUE_CMD(ur1) KPRC_VALUE_CMD(ur2) KPRC_VALUE_CMD(ur3)
+  KPRC_VALUE_CMD(fixed)
+  KPRC_VALUE_CMD(referencePoint)
+  KPRC_VALUE_CMD(isReferencePointDefined)
 
   dtmC_DatumRef localCsys;
 
  protected:
   /// Refuses a local system for all six directions, 50, and a load that is held where it is created, 51.
   void AssertKind() const override;
+  /// Refuses directions that the space has not got, 48 and 49, and a local system for all that it has, 50.
+  void AssertInSpace(kloC_SpaceEnm space) const override;
 };

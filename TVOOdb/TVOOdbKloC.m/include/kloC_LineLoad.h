@@ -20,7 +20,7 @@ class TVO_API kloC_LineLoad final : public kprC_StateAccess<kloC_Vector, kloC_Li
   CLS_PERSISTENT(kloC, kloC_LineLoad)
 
  public:
-  /// Which directions the components have: the model's or the beam's.
+  /// Which directions the components have: the model's or the beam's. Stored by name.
   enum class SystemEnm { GLOBAL = 0, LOCAL = 1 };
 
   kloC_LineLoad() = default;

@@ -23,7 +23,7 @@ class TVO_API kloC_LoadState : public kprC_AmplitudeState {
   KPRC_NAMED_CMD(pythonTypeName, "LoadState")
 
  private:
-  // No step takes a load's values to zero or releases them: a perturbation builds in what is there.
+  // No step takes a load's values to zero or asks whether all are released: a perturbation builds in what is there.
   using kprC_AmplitudeState::IsConditionModified;
   using kprC_AmplitudeState::UseMagnitude;
   using kprC_AmplitudeState::Zero;
@@ -41,6 +41,7 @@ struct TVO_API kloC_Family {
   static void Assert(bool condition, int error) { kloC_Assert(condition, error); }
   /// Refuses a step in which the load has nothing in force.
   [[noreturn]] static void RefuseStep(mdl_PropagationStatusEnm, cow_String const&) { kloC_Refuse(32); }
+  /// Under which scripts know the loads of a model, and the menus of a step of that procedure.
   static char const* RepositoryName() noexcept;
   static cow_List<kprC_OfferedMenu> OfferedTypes(int procedure);
 };
@@ -53,6 +54,7 @@ class TVO_API kloC_Load : public kprC_StepDependent<kloC_Family> {
   CLS_ABSTRACT(kloC, kloC_Load)
 
  public:
+  /// The menu that offers the load.
   enum CategoryEnm {
     MECHANICAL = 0,
     THERMAL = 1,
@@ -67,8 +69,8 @@ class TVO_API kloC_Load : public kprC_StepDependent<kloC_Family> {
   virtual CategoryEnm Category() const = 0;
   /// How the magnitude is given over the region; nothing for a kind that has no choice.
   virtual std::optional<kloC_DistributionEnm> Distribution() const { return std::nullopt; }
-  /// Whether a field gives the distribution; `name` receives its name, or is emptied.
-  virtual bool UsesField(cow_String& name) const;
+  /// Whether a field gives the distribution; `field` receives its name, or is emptied.
+  virtual bool UsesField(cow_String& field) const;
   /// The region if it is of the type that is asked for.
   cls_xoList<rgnC_Region> Regions(rgnC_RegionType type) const override;
 
@@ -78,38 +80,20 @@ class TVO_API kloC_Load : public kprC_StepDependent<kloC_Family> {
   bool ValidInPerturbationStep(int, bool) const override { return false; }
 
   void AssertValid() const override;
-  /// The same for a load whose magnitude is yet to come: what the kind of load and its values refuse is left out.
+  /// The same for a load whose magnitude is yet to come: without the test of the magnitude and what the kind of load
+  /// refuses beyond its states.
   virtual void AssertValidAnyMagnitude() const;
-  /// Refuses what a model in that space does not know. Asked by whoever knows the model.
-  virtual void AssertValidInSpace(kloC_SpaceEnm) const {}
+  /// Refuses what a model in that space does not know. Asked by whoever knows the model; a suppressed load passes.
+  void AssertValidInSpace(kloC_SpaceEnm space) const;
 
   KPRC_NAMED_CMD(loadCmd, "load")
   KPRC_NAMED_CMD(loadRepositoryCmd, "loads")
-  KPRC_CMD(name)
-  KPRC_CMD(category)
-  KPRC_CMD(region)
-  KPRC_NAMED_CMD(csysCmd, "localCsys")
-  KPRC_CMD(amplitude)
-  KPRC_CMD(amplitudeState)
-  KPRC_CMD(status)
-  KPRC_NAMED_CMD(setParametersCmd, "setValues")
-  KPRC_NAMED_CMD(modifyParametersCmd, "setValuesInStep")
-  KPRC_CMD(deactivate)
-  KPRC_CMD(history)
-  KPRC_CMD(createStepName)
-  KPRC_CMD(stepName)
-  KPRC_CMD(fromStepName)
-  KPRC_CMD(toStepName)
-  KPRC_CMD(move)
-  KPRC_CMD(reset)
-  KPRC_CMD(suppress)
-  KPRC_CMD(suppressed)
-  KPRC_CMD(resume)
-  KPRC_NAMED_CMD(copyConstructorCmd, "Load")
-  KPRC_NAMED_CMD(globalCsysName, "(Global)")
-  KPRC_CMD(distribution)
-  KPRC_CMD(distributionType)
-  KPRC_CMD(fieldName)
+  KPRC_NAMED_CMD(loadStateCmd, State::loadStateCmd())
+  KPRC_NAMED_CMD(copyConstructorCmd, "BoundaryCondition")  // scripts know the copies of both families by one name
+  KPRC_NAMED_CMD(upgradeLoadMDBCmd, "_upgradeLoadMdb")
+  KPRC_NAMED_CMD(upgradeOperationCmd, "operation")
+  KPRC_CMD(type)
+  KPRC_CMD(field)
 
   rgnC_Region region;
   cow_String fieldName;
@@ -117,6 +101,8 @@ class TVO_API kloC_Load : public kprC_StepDependent<kloC_Family> {
  protected:
   /// What a kind of load refuses besides; a suppressed load is not asked.
   virtual void AssertKind() const {}
+  /// What it refuses in that space; a suppressed load is not asked.
+  virtual void AssertInSpace(kloC_SpaceEnm) const {}
   /// Whether the state gives the load a magnitude, or its kind needs none.
   virtual bool HasMagnitude(State const&, int) const { return true; }
 

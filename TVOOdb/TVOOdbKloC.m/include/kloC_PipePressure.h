@@ -16,6 +16,7 @@ class TVO_API kloC_PipePressure final : public kprC_StateAccess<kloC_Pressure, k
   CLS_PERSISTENT(kloC, kloC_PipePressure)
 
  public:
+  /// On which side of the pipe's wall the pressure acts. Stored by name.
   enum class SideEnm { INTERNAL = 0, EXTERNAL = 1 };
 
   kloC_PipePressure() = default;

@@ -15,7 +15,7 @@ class TVO_API kloC_PressureState : public kloC_LoadState {
   KLOC_MAGNITUDE(kloC_PressureState)
   mdl_PropAttr<double> hZero;       ///< elevation of zero pressure, in units of length
   mdl_PropAttr<double> hReference;  ///< elevation of the magnitude
-  bool useHydrostatic = false;
+  bool useHydrostatic = false;      ///< hydrostatic in this step, whatever the load's distribution
 };
 
 /// A pressure on a surface, positive into the body.
@@ -31,8 +31,8 @@ class TVO_API kloC_Pressure : public kloC_ComplexLoad<kloC_Pressure, kloC_Pressu
 
   KPRC_NAMED_CMD(constructorCmd, "Pressure")
   KLOC_MAGNITUDE_ACCESS()
-  KPRC_CMD(hZero)
-  KPRC_CMD(hReference)
+  KPRC_VALUE_CMD(hZero)
+  KPRC_VALUE_CMD(hReference)
   KPRC_CMD(refPoint)
 
   KLOC_COMPLEX_MAGNITUDE(kloC_Pressure)

@@ -26,8 +26,10 @@ class TVO_API kloC_PressurePenetration final : public kloC_ValueLoad<kloC_Pressu
   bool AllowedInALoadCase() const override { return true; }
 
   KPRC_NAMED_CMD(constructorCmd, "PressurePenetration")
-  KPRC_CMD(p1)
-  KPRC_CMD(p2)
+  KPRC_COMPONENT_GETTERS(P1, 0)
+  KPRC_COMPONENT_GETTERS(P2, 1)
+  KPRC_VALUE_CMD(p1)
+  KPRC_VALUE_CMD(p2)
   KPRC_CMD(interaction)
 
   cow_String interaction;

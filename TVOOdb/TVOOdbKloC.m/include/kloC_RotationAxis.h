@@ -5,7 +5,7 @@
 #include "kprC_Step.h"
 #include "rgnC_Region.h"
 
-/// How a point of an axis is given: by something picked, or by coordinates.
+/// How a point of an axis is given: by something picked, or by coordinates. Stored by name.
 enum class kloC_AxisPointEnm { PICKED = 0, COORDINATES = 1 };
 
 template <>

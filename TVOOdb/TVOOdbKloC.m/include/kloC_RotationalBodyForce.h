@@ -22,8 +22,6 @@ class TVO_API kloC_RotationalBodyForce final
   kloC_RotationalBodyForce() = default;
   CategoryEnm Category() const override { return MECHANICAL; }
   bool AllowedInALoadCase() const override { return true; }
-  /// An axisymmetric model turns about its own axis, and nothing there speeds it up: 44, 45.
-  void AssertValidInSpace(kloC_SpaceEnm space) const override;
 
   KPRC_NAMED_CMD(constructorCmd, "RotationalBodyForce")
   KPRC_CMD(centrifugal)
@@ -35,4 +33,6 @@ class TVO_API kloC_RotationalBodyForce final
  protected:
   /// Refuses a load that is neither kind or both, 43, and an axis without direction.
   void AssertKind() const override;
+  /// An axisymmetric model turns about its own axis, and nothing there speeds it up: 44, 45.
+  void AssertInSpace(kloC_SpaceEnm space) const override;
 };

@@ -16,6 +16,7 @@ class TVO_API kloC_ShellEdgeLoad final : public kprC_StateAccess<kloC_Traction, 
   CLS_PERSISTENT(kloC, kloC_ShellEdgeLoad)
 
  public:
+  /// Where the load points, seen from edge and shell; a moment is about the edge. Stored by name.
   enum class TractionEnm { NORMAL = 0, TRANSVERSE = 1, SHEAR = 2, MOMENT = 3, GENERAL = 4 };
 
   kloC_ShellEdgeLoad() = default;

@@ -32,7 +32,8 @@ class TVO_API kloC_SubmodelStressBased final : public kprC_StateAccess<kloC_Load
   KPRC_CMD(exteriorTolerance)
   KPRC_CMD(globalStep)
   KPRC_CMD(globalIncrement)
-  KPRC_CMD(scale)
+  KPRC_VALUE_CMD(scale)
+  KPRC_VALUE_CMD(fixed)
 
   cow_String globalDrivingRegion;
   double absoluteExteriorTolerance = 0.0;  ///< in units of length

@@ -16,6 +16,7 @@ class TVO_API kloC_SurfaceTraction final : public kprC_StateAccess<kloC_Traction
   CLS_PERSISTENT(kloC, kloC_SurfaceTraction)
 
  public:
+  /// Whether the load is along the surface or points anywhere. Stored by name.
   enum class TractionEnm { SHEAR = 0, GENERAL = 1 };
 
   kloC_SurfaceTraction() = default;

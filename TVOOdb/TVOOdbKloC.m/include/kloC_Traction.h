@@ -16,6 +16,7 @@ class TVO_API kloC_Traction : public kloC_ComplexLoad<kloC_Traction, kloC_Tracti
   CLS_ABSTRACT(kloC, kloC_Traction)
 
  public:
+  /// The axis about which the angle turns the system. Stored by name.
   enum class AxisEnm { AXIS_1 = 0, AXIS_2 = 1, AXIS_3 = 2 };
 
   KLOC_MAGNITUDE_ACCESS()
@@ -40,8 +41,8 @@ class TVO_API kloC_Traction : public kloC_ComplexLoad<kloC_Traction, kloC_Tracti
   /// Whether the direction is any, and whether one must be given.
   virtual bool IsGeneral() const = 0;
   virtual bool NeedsDirection() const = 0;
-  /// Refuses a direction without length, 64, a system that is given twice, 65, and a direction that is fixed though it
-  /// follows from the surface, 66.
+  /// Refuses a direction without length or with other than three components, 64, a system that is given twice, 65, and a
+  /// direction that is fixed though it follows from the surface, 66.
   void AssertKind() const override;
 };
 

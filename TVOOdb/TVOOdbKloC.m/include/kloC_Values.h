@@ -13,12 +13,17 @@ class kloC_ValueLoad : public kprC_ComponentAccess<kloC_Load, S> {
   bool HasMagnitude(kloC_LoadState const& state, int procedure) const override {
     S const& values = kprC_CheckedCast<S>(state, __FILE__, __LINE__);
     for (std::size_t i = 0; i < S::Components().size(); ++i) {
-      omi_complex const* const complex = this->ComplexIn(values, i, static_cast<unsigned int>(procedure));
-      if (complex != nullptr ? !complex->IsZero() : (values.*S::Components()[i]).ConstGet() != 0.0) {
+      if (!IsZero(values, i, procedure)) {
         return true;
       }
     }
     return false;
+  }
+
+  /// Whether what is in force for a component in a step of that procedure is zero.
+  bool IsZero(S const& values, std::size_t i, int procedure) const {
+    omi_complex const* const complex = this->ComplexIn(values, i, static_cast<unsigned int>(procedure));
+    return complex != nullptr ? complex->IsZero() : (values.*S::Components()[i]).ConstGet() == 0.0;
   }
 };
 
@@ -47,8 +52,7 @@ class kloC_ComplexLoad : public kloC_ValueLoad<S> {
 /// Declares the getters and scripting names of a load's one magnitude.
 #define KLOC_MAGNITUDE_ACCESS()     \
   KPRC_COMPONENT_GETTERS(Mag, 0)    \
-  KPRC_CMD(magnitude)               \
-  KPRC_CMD(magnitudeState)
+  KPRC_VALUE_CMD(magnitude)
 
 /// Declares the complex magnitude of a load.
 #define KLOC_COMPLEX_MAGNITUDE(Load)                                            \

@@ -26,7 +26,7 @@ void kloC_BoltLoad::Move(cow_String const& from, cow_String const& to) {
 void kloC_BoltLoad::AssertKind() const {
   Quad const& creating = *CreatingQuad();
   if (creating.HasStep()) {
-    kloC_Assert(&creating == &states[1] && !creating.Step().Perturbation(), 37);
+    kloC_Assert(states.Length() > 1 && &creating == &states[1] && !creating.Step().Perturbation(), 37);
   }
   auto const& state = kprC_CheckedCast<kloC_BoltLoadState>(creating.state.ConstGet(), __FILE__, __LINE__);
   kloC_Assert(state.boltMethod.ConstGet() != kloC_BoltLoadMethodEnm::FIX_LENGTH, 38);

@@ -12,14 +12,14 @@ cls_AttributeTable const& kloC_Gravity::Attributes() {
   return table;
 }
 
-void kloC_Gravity::AssertValidInSpace(kloC_SpaceEnm space) const {
+void kloC_Gravity::AssertInSpace(kloC_SpaceEnm space) const {
   if (space != kloC_SpaceEnm::AXISYMMETRIC) {
     return;
   }
   for (Quad const& quad : states) {
-    if (quad.state.HasValue()) {
+    if (quad.state.HasValue() && !quad.IsStepSuppressed()) {
       auto const& state = kprC_CheckedCast<kloC_GravityState>(quad.state.ConstGet(), __FILE__, __LINE__);
-      kloC_Assert(state.c1.ConstGet() == 0.0 && state.c3.ConstGet() == 0.0, 46);
+      kloC_Assert(IsZero(state, 0, quad.Procedure()) && IsZero(state, 2, quad.Procedure()), 46);
     }
   }
 }

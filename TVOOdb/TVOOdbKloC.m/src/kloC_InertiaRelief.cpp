@@ -64,7 +64,7 @@ void kloC_InertiaRelief::AssertKind() const {
   kloC_Assert(!created.fixed.ConstGet(), 51);
 }
 
-void kloC_InertiaRelief::AssertValidInSpace(kloC_SpaceEnm space) const {
+void kloC_InertiaRelief::AssertInSpace(kloC_SpaceEnm space) const {
   for (SpaceRow const& row : spaces) {
     if (row.space == space) {
       AssertDirections(states, row, !localCsys.IsNullRef());

@@ -10,20 +10,9 @@ template class kprC_StepDependent<kloC_Family>;
 template class kprC_Propagator<kloC_Family>;
 template class kprC_PropagatingContainer<kloC_Load>;
 
-kprC_StepRules const& kloC_Family::Rules() { return kloC_rules; }
+kprC_StepRules const& kloC_Family::Rules() { return kloC_Rules::all; }
 
 char const* kloC_Family::RepositoryName() noexcept { return kloC_Load::loadRepositoryCmd(); }
-
-cow_List<kprC_OfferedMenu> kloC_Family::OfferedTypes(int procedure) {
-  return {{"mechanical", kloC_getMechanicalLoadTypesforStep(procedure, 0)},
-          {"thermal", kloC_getThermalLoadTypesforStep(procedure, 0)},
-          {"fluid", kloC_getFluidLoadTypesforStep(procedure, 0)},
-          {"electrical", kloC_getElectricalLoadTypesforStep(procedure, 0)},
-          {"electrochemical", kloC_getElectroChemicalLoadTypesforStep(procedure, 0)},
-          {"mass diffusion", kloC_getMassDiffusionLoadTypesforStep(procedure, 0)},
-          {"acoustic", kloC_getAcousticLoadTypesforStep(procedure, 0)},
-          {"other", kloC_getOtherLoadTypesforStep(procedure, 0)}};
-}
 
 // ---- the state
 
@@ -85,6 +74,12 @@ void kloC_Load::AssertValidAnyMagnitude() const {
   kprC_StepDependent::AssertValid();
   Quad const& creating = *CreatingQuad();
   kloC_Assert(creating.HasStep() || creating.stepName != kprC_Step::initialCmd(), 2);
+}
+
+void kloC_Load::AssertValidInSpace(kloC_SpaceEnm space) const {
+  if (suppressionState == RESUMED) {
+    AssertInSpace(space);
+  }
 }
 
 void kloC_Load::AssertDefinition() const {

@@ -1,5 +1,6 @@
 #include "kloC_LoadTypes.h"
 
+#include "kloC_Load.h"
 #include "kloC_typesByStep.h"
 
 namespace {
@@ -7,46 +8,27 @@ namespace {
 // The menus do not depend on the product; that of the tests is any.
 constexpr int anyProduct = 0;
 
-cow_List<cow_String> Menu(std::span<kprC_TypesByStepRow const> rows, int procedure, TVOBasStringMode mode) {
-  return kprC_OfferedLabels(rows, kloC_LoadTypeLabelMap::Instance(), procedure, anyProduct, mode);
-}
-
 }  // namespace
 
 kloC_LoadTypeLabelMap::kloC_LoadTypeLabelMap() {
   for (kprC_TypeLabelRow const& row : kloC_TypeLabels) Insert(row.type, row.label, row.label);
 }
 
-cow_List<cow_String> kloC_getMechanicalLoadTypesforStep(int procedure, TVOBasStringMode mode) {
-  return Menu(kloC_MechanicalMenu, procedure, mode);
-}
+#define KLOC_MENU(Kind, rows)                                                                                      \
+  cow_List<cow_String> kloC_get##Kind##LoadTypesforStep(int procedure, TVOBasStringMode mode) {                    \
+    return kprC_OfferedLabels(rows, kloC_LoadTypeLabelMap::Instance(), procedure, anyProduct, mode);               \
+  }
+KLOC_MENU(Mechanical, kloC_Menus::mechanical)
+KLOC_MENU(Thermal, kloC_Menus::thermal)
+KLOC_MENU(Fluid, kloC_Menus::fluid)
+KLOC_MENU(Electrical, kloC_Menus::electrical)
+KLOC_MENU(ElectroChemical, kloC_Menus::electrochemical)
+KLOC_MENU(MassDiffusion, kloC_Menus::massDiffusion)
+KLOC_MENU(Acoustic, kloC_Menus::acoustic)
+KLOC_MENU(Other, kloC_Menus::other)
 
-cow_List<cow_String> kloC_getThermalLoadTypesforStep(int procedure, TVOBasStringMode mode) {
-  return Menu(kloC_ThermalMenu, procedure, mode);
-}
-
-cow_List<cow_String> kloC_getFluidLoadTypesforStep(int procedure, TVOBasStringMode mode) {
-  return Menu(kloC_FluidMenu, procedure, mode);
-}
-
-cow_List<cow_String> kloC_getElectricalLoadTypesforStep(int procedure, TVOBasStringMode mode) {
-  return Menu(kloC_ElectricalMenu, procedure, mode);
-}
-
-cow_List<cow_String> kloC_getElectroChemicalLoadTypesforStep(int procedure, TVOBasStringMode mode) {
-  return Menu(kloC_ElectrochemicalMenu, procedure, mode);
-}
-
-cow_List<cow_String> kloC_getMassDiffusionLoadTypesforStep(int procedure, TVOBasStringMode mode) {
-  return Menu(kloC_MassDiffusionMenu, procedure, mode);
-}
-
-cow_List<cow_String> kloC_getAcousticLoadTypesforStep(int procedure, TVOBasStringMode mode) {
-  return Menu(kloC_AcousticMenu, procedure, mode);
-}
-
-cow_List<cow_String> kloC_getOtherLoadTypesforStep(int procedure, TVOBasStringMode mode) {
-  return Menu(kloC_OtherMenu, procedure, mode);
+cow_List<kprC_OfferedMenu> kloC_Family::OfferedTypes(int procedure) {
+  return kprC_OfferedMenus(kloC_MenuTable, kloC_LoadTypeLabelMap::Instance(), procedure, anyProduct);
 }
 
 bool kloC_isOfferedLoadTypeforStep(int loadType, int procedure) noexcept {

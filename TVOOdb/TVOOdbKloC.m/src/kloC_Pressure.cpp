@@ -28,14 +28,13 @@ std::optional<kloC_DistributionEnm> kloC_Pressure::Distribution() const {
 }
 
 void kloC_Pressure::AssertKind() const {
-  if (distType != kloC_PressureDistributionEnm::HYDROSTATIC) {
-    return;
-  }
   for (Quad const& quad : states) {
     if (quad.state.HasValue() && !quad.IsStepSuppressed()) {
-      kloC_Assert(!kprC_IsExplicit(static_cast<unsigned int>(quad.Procedure())), 19);
       auto const& state = kprC_CheckedCast<kloC_PressureState>(quad.state.ConstGet(), __FILE__, __LINE__);
-      kloC_Assert(state.hZero.ConstGet() != state.hReference.ConstGet(), 20);
+      if (state.useHydrostatic || distType == kloC_PressureDistributionEnm::HYDROSTATIC) {
+        kloC_Assert(!kprC_IsExplicit(static_cast<unsigned int>(quad.Procedure())), 19);
+        kloC_Assert(state.hZero.ConstGet() != state.hReference.ConstGet(), 20);
+      }
     }
   }
 }

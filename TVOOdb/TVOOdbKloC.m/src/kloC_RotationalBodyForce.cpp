@@ -23,7 +23,7 @@ void kloC_RotationalBodyForce::AssertKind() const {
   AssertAxis();
 }
 
-void kloC_RotationalBodyForce::AssertValidInSpace(kloC_SpaceEnm space) const {
+void kloC_RotationalBodyForce::AssertInSpace(kloC_SpaceEnm space) const {
   if (space == kloC_SpaceEnm::AXISYMMETRIC) {
     kloC_Assert(IsAxisOfSymmetry(), 44);
     kloC_Assert(centrifugal, 45);

@@ -25,7 +25,7 @@ void kloC_Traction::AssertKind() const {
   for (double const component : directionVector) {
     hasLength = hasLength || component != 0.0;
   }
-  kloC_Assert(hasLength || (directionVector.IsEmpty() && !NeedsDirection()), 64);
+  kloC_Assert((hasLength && directionVector.Length() == 3) || (directionVector.IsEmpty() && !NeedsDirection()), 64);
   kloC_Assert(csys.IsNullRef() || userCsys.IsEmpty(), 65);
   kloC_Assert(follower || IsGeneral(), 66);
 }

@@ -7,12 +7,15 @@
 // Access to the values of a step, for all families. A state lists its propagating values in `Components()`; one that has
 // complex values, too, lists these in `ComplexComponents()`.
 
-/// Gives the values of a step as the object's own class of states.
+/// Takes and gives the values of a step as the object's own class of states; a state of another class is refused.
 template <class Base, class S>
 class kprC_StateAccess : public Base {
  public:
   S const& ConstGetState(cow_String const& step) const override {
     return kprC_CheckedCast<S>(Base::ConstGetState(step), __FILE__, __LINE__);
+  }
+  bool Insert(cow_String const& step, typename Base::State const& state) override {
+    return Base::Insert(step, kprC_CheckedCast<S>(state, __FILE__, __LINE__));
   }
 };
 

@@ -6,6 +6,9 @@
 #include "mdl_PropagationEnums.h"
 #include "rgnC_Region.h"
 
+/// Declares the names of a value that propagates and of its state, such as u1Cmd() and u1StateCmd().
+#define KPRC_VALUE_CMD(name) KPRC_CMD(name) KPRC_CMD(name##State)
+
 /// A named object of the model that lives over its steps, as callers see it that do not know its family.
 ///
 /// Each edit stores what the user said in the step it was said for, derives all steps anew and validates the object, so a
@@ -56,6 +59,32 @@ class TVO_API kprC_StepObject : public cls_Persistent {
   virtual void RemoveStep(cow_String const& step) = 0;
   virtual void RenameStep(cow_String const& oldName, cow_String const& newName) = 0;
   virtual void ReplaceStep(cow_String const& step) = 0;
+
+  // ---- names under which scripts know what the families share
+  KPRC_CMD(name)
+  KPRC_CMD(category)
+  KPRC_CMD(region)
+  KPRC_NAMED_CMD(csysCmd, "localCsys")
+  KPRC_CMD(amplitude)
+  KPRC_CMD(amplitudeState)
+  KPRC_CMD(status)
+  KPRC_NAMED_CMD(setParametersCmd, "setValues")
+  KPRC_NAMED_CMD(modifyParametersCmd, "setValuesInStep")
+  KPRC_CMD(deactivate)
+  KPRC_CMD(history)
+  KPRC_CMD(createStepName)
+  KPRC_CMD(stepName)
+  KPRC_CMD(fromStepName)
+  KPRC_CMD(toStepName)
+  KPRC_CMD(move)
+  KPRC_CMD(reset)
+  KPRC_CMD(suppress)
+  KPRC_CMD(suppressed)
+  KPRC_CMD(resume)
+  KPRC_NAMED_CMD(globalCsysName, "(Global)")
+  KPRC_CMD(distribution)
+  KPRC_CMD(distributionType)
+  KPRC_CMD(fieldName)
 
   kprC_SuppressionEnm suppressionState = RESUMED;
 };

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <initializer_list>
 #include <span>
 
+#include "kprC_Procedures.h"
 #include "mdl_PropagationEnums.h"
 
 // How one step-dependent family differs from another, as data. The machine that reads it is kprC_StepDependent and
@@ -57,6 +59,29 @@ struct kprC_StepCheck {
   unsigned int procedure = 0;
 };
 
+/// The rows of several tables, one after the other.
+template <class Row, std::size_t... sizes>
+constexpr auto kprC_Joined(std::array<Row, sizes> const&... tables) {
+  std::array<Row, (sizes + ...)> joined{};
+  auto next = joined.begin();
+  ((next = std::copy(tables.begin(), tables.end(), next)), ...);
+  return joined;
+}
+
+/// Into what nothing moves: perturbations, and five procedures whose numbers follow that of the first.
+constexpr std::array<kprC_StepCheck, 6> kprC_NoMoveInto(int perturbation, int anneal) {
+  using enum kprC_StepTest;
+  using namespace kprC_Procedure;
+  return {{
+      {destinationGeneral, perturbation},
+      {destinationNotOf, anneal, Anneal},
+      {destinationNotOf, anneal + 1, ModalDynamics},
+      {destinationNotOf, anneal + 2, RandomResponse},
+      {destinationNotOf, anneal + 3, ResponseSpectrum},
+      {destinationNotOf, anneal + 4, SteadyStateModal},
+  }};
+}
+
 /// What the propagator does when a step deactivates an object of a status.
 enum class kprC_Deactivation : std::uint8_t {
   unknown,         ///< no status of the family
@@ -66,6 +91,29 @@ enum class kprC_Deactivation : std::uint8_t {
   deactivateBase,  ///< the status becomes STATUS_BASE_DEACTIVATED
   inBaseState,     ///< refused: it stands in the base state
 };
+
+/// What it does by running status; `inPerturbation` is for what stands in a perturbation step.
+constexpr std::array<kprC_Deactivation, 16> kprC_DeactivationBy(kprC_Deactivation inPerturbation) {
+  using enum kprC_Deactivation;
+  return {
+      already,         // 0  none
+      deactivate,      // 1  created
+      deactivate,      // 2  propagated
+      deactivate,      // 3  modified
+      nothing,         // 4  deactivated
+      nothing,         // 5  inactive
+      already,         // 6  type invalid
+      already,         // 7  instance invalid
+      inPerturbation,  // 8  built in
+      inPerturbation,  // 9  base propagated
+      inPerturbation,  // 10 base modified
+      already,         // 11 base deactivated
+      inBaseState,     // 12 base built in
+      deactivate,      // 13 computed
+      already,         // 14 computed propagated
+      nothing,         // 15 computed deactivated
+  };
+}
 
 /// Faults that a walk over the steps can meet.
 enum kprC_PropErrorEnum {

@@ -5,7 +5,6 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <initializer_list>
 #include <iterator>
 #include <span>
 #include <string_view>
@@ -15,6 +14,7 @@
 #include "cow_List.h"
 #include "cow_String.h"
 #include "kprC_Procedures.h"
+#include "kprC_StepRepository.h"
 #include "uti_TranslationMap.h"
 
 // Which types of step-dependent objects are on offer in which step. A family gives tables, one for each of its menus, and
@@ -71,6 +71,12 @@ struct kprC_TypesByStepRow {
   }
 };
 
+/// A menu: its name ("mechanical") and its table.
+struct kprC_TypesMenu {
+  char const* name;
+  std::span<kprC_TypesByStepRow const> rows;
+};
+
 /// The label of a type, as stored and before translation.
 struct kprC_TypeLabelRow {
   unsigned int type;
@@ -112,15 +118,21 @@ constexpr bool kprC_AllLabelled(std::span<kprC_TypesByStepRow const> rows, std::
   return true;
 }
 
+/// Whether the tables of all menus are such.
+constexpr bool kprC_MenusAreSound(std::span<kprC_TypesMenu const> menus, std::span<kprC_TypeLabelRow const> labels) {
+  return std::all_of(menus.begin(), menus.end(), [&](kprC_TypesMenu const& menu) {
+    return kprC_RowsAreDisjoint(menu.rows) && kprC_AllLabelled(menu.rows, labels);
+  });
+}
+
 /// Answers for one type whether any of a family's menus offers it: the tables turned over at compile time into a mask of
 /// steps for each type and product. `TypeRows` is the number of rows in the type table of the family's module.
 template <std::size_t TypeRows>
 class kprC_OfferIndex {
  public:
-  consteval kprC_OfferIndex(unsigned int moduleId, std::initializer_list<std::span<kprC_TypesByStepRow const>> menus)
-      : moduleId_(moduleId) {
-    for (auto const& rows : menus) {
-      for (kprC_TypesByStepRow const& row : rows) Enter(row);
+  consteval kprC_OfferIndex(unsigned int moduleId, std::span<kprC_TypesMenu const> menus) : moduleId_(moduleId) {
+    for (kprC_TypesMenu const& menu : menus) {
+      for (kprC_TypesByStepRow const& row : menu.rows) Enter(row);
     }
   }
 
@@ -158,6 +170,10 @@ class kprC_OfferIndex {
 TVO_API cow_List<cow_String> kprC_OfferedLabels(std::span<kprC_TypesByStepRow const> rows,
                                                 uti_TranslationMap const& labels, int procedure, int product,
                                                 TVOBasStringMode mode);
+
+/// The same for all menus of a family, as stored.
+TVO_API cow_List<kprC_OfferedMenu> kprC_OfferedMenus(std::span<kprC_TypesMenu const> menus,
+                                                     uti_TranslationMap const& labels, int procedure, int product);
 
 /// Whether an index offers the type in a step of the procedure. A type that has no label is none to ask for: it raises
 /// cow_KeyError.

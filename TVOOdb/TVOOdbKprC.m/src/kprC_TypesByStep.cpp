@@ -13,3 +13,12 @@ cow_List<cow_String> kprC_OfferedLabels(std::span<kprC_TypesByStepRow const> row
   }
   return menu;
 }
+
+cow_List<kprC_OfferedMenu> kprC_OfferedMenus(std::span<kprC_TypesMenu const> menus, uti_TranslationMap const& labels,
+                                             int procedure, int product) {
+  cow_List<kprC_OfferedMenu> offered;
+  for (kprC_TypesMenu const& menu : menus) {
+    offered.Append({menu.name, kprC_OfferedLabels(menu.rows, labels, procedure, product, 0)});
+  }
+  return offered;
+}
