@@ -23,6 +23,7 @@ void SetIn(cls_Persistent& object, cls_Attribute const& attribute, Setting const
     char const* const expected = propagating != nullptr ? propagating->Expected() : attribute.Expected();
     throw Unreadable(expected + (" for " + setting.key));
   }
+  attribute.AssertPartsValid(object);
 }
 
 }  // namespace

@@ -22,7 +22,8 @@ std::vector<AttributeRow> AttributeRows(cls_Persistent const& object);
 
 /// Gives an attribute of the first of the objects that has it a typed value; SET, FREED and UNSET give a propagating
 /// one that state, as scripts do in the step that creates the object (`createStep`) or later. A key that none of them
-/// has and a value of another kind cannot be read.
+/// has and a value of another kind cannot be read. Objects that are typed by their values are asked whether they are
+/// valid.
 void SetAttribute(std::initializer_list<cls_Persistent*> objects, Setting const& setting, bool createStep);
 
 /// The class whose scripting constructor has that name, if it is one of those that fit; else the line cannot be read,

@@ -223,7 +223,8 @@ TEST(EditModelTest, WhatAStepSuppressesIsResumedOrOutlivesIt) {
 }
 
 TEST(EditModelTest, RefusesInTheLibrarysWordsAndLeavesTheModelAsItWas) {
-  std::string const script = modal + "create DisplacementBC x createStepName=B u1=1\n";
+  std::string const script = modal + "create DisplacementBC x createStepName=B u1=1\n" +
+                             "step F SteadyStateDirectStep after=E frequencyRange=lower=1,upper=9\n";
   struct {
     std::string edit;
     char const* message;
@@ -246,6 +247,11 @@ TEST(EditModelTest, RefusesInTheLibrarysWordsAndLeavesTheModelAsItWas) {
       {"set steps Initial suppress=true", "The Initial step cannot be suppressed."},
       {"remove steps Initial", "Invalid step index"},
       {"set steps A timePeriod=2 initialInc=-1", "Initial increment must be greater than zero"},
+      {"set steps F timePeriod=2 frequencyRange=nPoints=5;nPoints=0",
+       "Invalid number of frequency range calculation points"},
+      {"replace F SteadyStateDirectStep frequencyRange=lower=2,upper=1", "Invalid frequency range values"},
+      {"step N ExplicitDynamicsStep after=Initial massScaling=occurs=THROUGHOUT_STEP",
+       "Target time increment must be greater than zero"},
       {"rename steps No to=Yes", "No"},
       {"create DisplacementBC y createStepName=No u1=0", "Unknown step type."},
       {"create DisplacementBC x createStepName=Initial u1=1", "Non-zero boundary condition in initial step."},
@@ -268,11 +274,12 @@ TEST(EditModelTest, RefusesInTheLibrarysWordsAndLeavesTheModelAsItWas) {
       {"open /no/such/file", "/no/such/file: cannot be opened: No such file or directory"},
   };
   std::string const listing =
-      "history\nshow boundaryConditions x\nshow boundaryConditions x stepName=E\nshow steps A\nshow steps C\n";
+      "history\nshow boundaryConditions x\nshow boundaryConditions x stepName=E\nshow steps A\nshow steps C\n"
+      "show steps F\n";
   // The initial step is in force anyway: to resume it is no edit.
   std::string edits = script + "resume steps Initial\n";
   std::string expected;
-  int line = 8;
+  int line = 9;
   for (auto const& [edit, message] : cases) {
     edits += edit + "\n";
     expected += "line " + std::to_string(++line) + ": refused: " + message + "\n";
@@ -282,7 +289,7 @@ TEST(EditModelTest, RefusesInTheLibrarysWordsAndLeavesTheModelAsItWas) {
   EXPECT_EQ(all.status, 0);
 
   Result const first = RunScript(script + "remove steps C\nhistory\n");
-  EXPECT_EQ(first.out, "line 8: refused: Invalid sequence of steps\n");
+  EXPECT_EQ(first.out, "line 9: refused: Invalid sequence of steps\n");
   EXPECT_EQ(first.status, 1);
 }
 
@@ -347,7 +354,9 @@ TEST(EditModelTest, OpensEveryProcedureAsItWasSaved) {
       {"CoupledThermalElectrochemStructStep deltmx=1" + inc},
       {"CoupledThermalElectrochemStructPorepressureStep deltmx=1 advection=true" + inc},
       {"FrequencyStep numEigen=3", "SubspaceDynamicsStep incSize=0.1 vectors=3"},
-      {"ExplicitDynamicsStep timeIncrementationMethod=AUTOMATIC_EBE", "AnnealStep refTemp=20",
+      {"ExplicitDynamicsStep timeIncrementationMethod=AUTOMATIC_EBE"
+       " massScaling=\"factor=2;occurs=THROUGHOUT_STEP,dt=1e-6,frequency=10\"",
+       "AnnealStep refTemp=20",
        "TempDisplacementDynamicsStep timeIncrementationMethod=FIXED_EBE"},
       {"StaticStep" + inc, "StaticLinearPerturbationStep solutionTechnique=LCP_CONTACT gapDistance=0.1",
        "BuckleStep numEigen=3 vectors=9",

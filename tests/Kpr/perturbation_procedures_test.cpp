@@ -221,7 +221,9 @@ TEST(PerturbationProceduresTest, ListsOfObjectsAreTypedByTheirValues) {
   }
   // What scripts do not make by itself has no such form.
   kprC_DirectDamping damping;
-  EXPECT_FALSE(damping.DynAttributes().Find("components")->SetText(damping, "start=1"));
+  cls_Attribute const& components = *damping.DynAttributes().Find("components");
+  EXPECT_FALSE(components.SetText(damping, "start=1"));
+  EXPECT_STREQ(components.Expected(), "no text: objects stand here");
 }
 
 }  // namespace

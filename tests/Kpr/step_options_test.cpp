@@ -274,6 +274,26 @@ TEST(StepOptionsTest, TheOtherOptionsRefuseTheirNumbers) {
   ExpectValidity<kprC_StepControl>("", {317}, {{317, "action=CONTINUE"}, {0, "action=CONTINUE dtRefinement=YES"}});
 }
 
+TEST(StepOptionsTest, StepControlsAskForTheirSensorsAndForNewNames) {
+  kprC_StepControl control;
+  EXPECT_EQ(Refusal([&] { control.AssertEditable(); }), "passes");
+  control.suppress = true;
+  EXPECT_EQ(Refusal([&] { control.AssertEditable(); }), WordsOf(315));
+  control.sensorNames = {cow_String("gauge"), cow_String("probe")};
+  EXPECT_EQ(Refusal([&] { control.AssertSensorsAreAmong({cow_String("gauge")}); }), WordsOf(318));
+  EXPECT_EQ(Refusal([&] { control.AssertSensorsAreAmong({cow_String("probe"), cow_String("gauge")}); }), "passes");
+
+  kprC_StepContainer steps;
+  steps.SetInitialStep("Initial", kprC_InitialStep());
+  kprC_StaticStep step;
+  steps.InsertAfter("Initial", "A", step, true);
+  step.scc.Insert("stop", new kprC_StepControl());
+  step.scc2.Insert("wear", new kprC_StepCyclingControl());
+  steps.InsertAfter("A", "B", step, true);
+  EXPECT_EQ(Refusal([&] { kprC_StepControl::AssertNameIsNew(steps, "stop"); }), WordsOf(316));
+  EXPECT_EQ(Refusal([&] { kprC_StepControl::AssertNameIsNew(steps, "wear"); }), "passes");
+}
+
 TEST(StepOptionsTest, RestartAsksForWhatTheStepCanMeet) {
   using namespace kprC_Procedure;
   auto const refusal = [](kprC_Restart const& restart, kprC_Step const& step) {

@@ -21,6 +21,7 @@ class TVO_API kprC_AnalysisStep : public kprC_Step {
 
   void Suppress() override { suppress = true; }
   void Resume() override { suppress = false; }
+  /// How the nonlinear equations are solved; FULL_NEWTON of a class that has no choice.
   virtual SolutionTechniqueEnm SolutionTechnique() const { return FULL_NEWTON; }
 
   KPRC_NAMED_CMD(constructorCmd, "AnalysisStep")
@@ -46,14 +47,14 @@ class TVO_API kprC_AnalysisStep : public kprC_Step {
   cow_COW<kprC_Monitor, cow_Virtual<kprC_Monitor>> monitor;
   cow_COW<kprC_DiagnosticPrint, cow_Virtual<kprC_DiagnosticPrint>> diagnosticPrint;
   cls_xoList<cow_COW<kprC_ContactControls, cow_Virtual<kprC_ContactControls>>> contactControls;  ///< none null
-  mdl_MapString2ObjCow<kadC_AdptMeshDomain> amd;  ///< adaptive mesh domains by step name
-  mdl_MapString2ObjCow<klcC_LoadCase> lcc;        ///< load cases by name
+  mdl_CowsByName<kadC_AdptMeshDomain> amd;                            ///< adaptive mesh domains by step name
+  mdl_CowsByName<klcC_LoadCase> lcc;                                  ///< load cases by name
   cow_COW<kprC_Controls, cow_Virtual<kprC_Controls>> controls;        ///< empty: the solver's own
   cow_COW<kprC_LinearCtrl, cow_Virtual<kprC_LinearCtrl>> linearCtrl;  ///< empty: the solver's own
   MatrixSolverEnm matrixSolver = MatrixSolverEnm::DIRECT;
   MatrixStorageEnm matrixStorage = MatrixStorageEnm::SOLVER_DEFAULT;
   ConvertSDIEnm convertSDI = ConvertSDIEnm::PROPAGATED;  ///< whether severe discontinuities force iterations
   cow_COW<mdl_ExtensionRepository, cow_Virtual<mdl_ExtensionRepository>> activateElemContainer;  ///< never null
-  mdl_MapString2ObjCow<kprC_StepControl> scc;          ///< step controls by name
-  mdl_MapString2ObjCow<kprC_StepCyclingControl> scc2;  ///< controls of the repetition of steps by name
+  mdl_CowsByName<kprC_StepControl> scc;          ///< step controls by name
+  mdl_CowsByName<kprC_StepCyclingControl> scc2;  ///< controls of the repetition of steps by name
 };

@@ -12,7 +12,7 @@ class TVO_API kprC_BuckleStep final : public kprC_AnalysisStep {
   kprC_BuckleStep() = default;
 
   double TimePeriod() const override { return timePeriod; }
-  /// Numbers 1, 2, 3, 87, 89 and 145.
+  /// Numbers 1, 2, 145 and, by the eigensolver, 3, 87 or 89.
   void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "BuckleStep")
@@ -28,10 +28,10 @@ class TVO_API kprC_BuckleStep final : public kprC_AnalysisStep {
   int numEigen = 0;
   double maxEigen = cls_NotGiven<double>;  ///< factors of the loads, as minEigen
   int vectors = 0;                         ///< of the subspace, as maxIterations
-  int maxIterations = 30;
+  int maxIterations = 30;                  ///< as of the frequency step
   EigensolverEnm eigensolver = SUBSPACE;
   double minEigen = cls_NotGiven<double>;
   int blockSize = cls_NotGiven<int>;  ///< of the Lanczos method, as maxBlocks
   int maxBlocks = cls_NotGiven<int>;
-  double timePeriod = 0.0;
+  double timePeriod = 1.0;
 };

@@ -9,7 +9,7 @@ class TVO_API kprC_CTDControls : public kprC_TypicalControls {
  public:
   kprC_CTDControls() = default;
 
-  cls_xp1DArrayListDouble temperatureField = DefaultField();
+  List temperatureField = DefaultField();
 
  protected:
   std::vector<FieldGroup> FieldGroups() const override;

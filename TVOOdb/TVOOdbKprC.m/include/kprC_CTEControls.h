@@ -9,7 +9,7 @@ class TVO_API kprC_CTEControls : public kprC_HeatTransferControls {
  public:
   kprC_CTEControls() = default;
 
-  cls_xp1DArrayListDouble electricalPotentialField = DefaultField();
+  List electricalPotentialField = DefaultField();
 
  protected:
   std::vector<FieldGroup> FieldGroups() const override;

@@ -11,9 +11,6 @@ class TVO_API kprC_ComplexFrequencyStep final : public kprC_AnalysisStep {
  public:
   enum AllEnm { ALL = 0 };
 
-  /// Stands for ALL among the numbers of eigenvalues.
-  static constexpr int allEigenvalues = cls_NotGiven<int>;
-
   kprC_ComplexFrequencyStep() = default;
 
   double TimePeriod() const override { return timePeriod; }
@@ -30,7 +27,7 @@ class TVO_API kprC_ComplexFrequencyStep final : public kprC_AnalysisStep {
 
   int numEigen = allEigenvalues;
   double shift = cls_NotGiven<double>;  ///< frequency near which to look
-  double timePeriod = 0.0;
+  double timePeriod = 1.0;
   bool frictionDamping = false;            ///< damping by friction that depends on the slip rate
   double minEigen = cls_NotGiven<double>;  ///< frequencies, as maxEigen
   double maxEigen = cls_NotGiven<double>;

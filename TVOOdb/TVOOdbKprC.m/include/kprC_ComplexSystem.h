@@ -13,6 +13,9 @@ class TVO_API kprC_ComplexSystem {
   /// REAL_ONLY leaves all damping out, so it is asked for, not assumed.
   FactorizationEnm factorization = COMPLEX;
   bool frictionDamping = false;  ///< damping by friction that depends on the slip rate
+
+ protected:
+  ~kprC_ComplexSystem() = default;
 };
 
 template <>

@@ -9,5 +9,6 @@ class TVO_API kprC_ContactControls : public cls_Persistent {
 
  public:
   kprC_ContactControls() = default;
+  /// Refuses nothing by itself; the kinds of solvers refuse numbers of their own.
   virtual void AssertValid() const {}
 };

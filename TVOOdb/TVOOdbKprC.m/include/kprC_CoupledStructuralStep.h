@@ -15,12 +15,11 @@ class TVO_API kprC_CoupledStructuralStep : public kprC_IncrementalStep, public k
 
   KPRC_CMD(deltmx)
   KPRC_CMD(cetol)
-  KPRC_CMD(creepIntegration)
   KPRC_CMD(amplitude)
   KPRC_CMD(extrapolation)
 
   NlgeomEnm nlgeom = OFF;
-  ResponseEnm response = TRANSIENT;
+  ResponseEnm response = TRANSIENT;      ///< the usual one
   double deltmx = cls_NotGiven<double>;  ///< largest change of temperature in an increment
   double cetol = cls_NotGiven<double>;   ///< largest difference of creep strain increments
   AmplitudeEnm amplitude = RAMP;
@@ -35,6 +34,8 @@ class TVO_API kprC_CoupledStructuralStep : public kprC_IncrementalStep, public k
 class TVO_API kprC_CreepIntegration {
  public:
   enum CreepIntegrationEnm { IMPLICIT_EXPLICIT = 0, EXPLICIT = 1, CREEP_OFF = 2 };
+
+  KPRC_CMD(creepIntegration)
 
   CreepIntegrationEnm creepIntegration = IMPLICIT_EXPLICIT;
 

@@ -16,6 +16,7 @@ class TVO_API kprC_CoupledTempDisplacementStep final : public kprC_CoupledStruct
   void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "CoupledTempDisplacementStep")
+  KPRC_CMD(creepIntegration)
   KPRC_CMD(solutionTechnique)
 
   CreepIntegrationEnm creepIntegration = IMPLICIT_EXPLICIT;

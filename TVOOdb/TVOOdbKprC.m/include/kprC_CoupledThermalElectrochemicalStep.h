@@ -22,7 +22,7 @@ class TVO_API kprC_CoupledThermalElectrochemicalStep final : public kprC_Increme
   KPRC_CMD(extrapolation)
   KPRC_CMD(solutionTechnique)
 
-  ResponseEnm response = TRANSIENT;
+  ResponseEnm response = TRANSIENT;      ///< the usual one
   double deltmx = cls_NotGiven<double>;  ///< largest change of temperature in an increment
   AmplitudeEnm amplitude = RAMP;
   ExtrapolationEnm extrapolation = ExtrapolationEnm::LINEAR;

@@ -12,6 +12,7 @@ class TVO_API kprC_DampedModes {
   int end = 0;    ///< last mode, not below start
 
  protected:
+  ~kprC_DampedModes() = default;
   /// Refuses a range that does not run upwards from 1: numbers 18, 19 and 20.
   void AssertModes() const;
 };
@@ -22,6 +23,7 @@ class TVO_API kprC_DampedFrequency {
   double frequency = 0.0;  ///< in cycles per unit of time, from 0
 
  protected:
+  ~kprC_DampedFrequency() = default;
   /// Refuses a negative one: number 164.
   void AssertFrequency() const;
 };

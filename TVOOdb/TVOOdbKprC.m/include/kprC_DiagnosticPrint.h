@@ -9,5 +9,6 @@ class TVO_API kprC_DiagnosticPrint : public cls_Persistent {
 
  public:
   kprC_DiagnosticPrint() = default;
+  /// Refuses nothing by itself; the kinds of solvers refuse numbers of their own.
   virtual void AssertValid() const {}
 };

@@ -20,9 +20,9 @@ class TVO_API kprC_DirectCyclicControls : public kprC_PrimaryControls {
   /// As the base, then numbers 130 and 113 of `directCyclic`.
   void AssertValid() const override;
 
-  cls_xp1DArrayListDouble displacementField = DefaultField();
-  cls_xp1DArrayListDouble rotationField = DefaultField();
-  cls_xp1DArrayListDouble directCyclic = ListOf(defaultDirectCyclic);
+  List displacementField = DefaultField();
+  List rotationField = DefaultField();
+  List directCyclic = ListOf(defaultDirectCyclic);
 
  protected:
   std::vector<FieldGroup> FieldGroups() const override;

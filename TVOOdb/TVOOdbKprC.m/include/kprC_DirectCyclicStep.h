@@ -35,6 +35,7 @@ class TVO_API kprC_DirectCyclicStep final : public kprC_IncrementalStep {
   double cetol = cls_NotGiven<double>;   ///< largest difference of creep strain increments
   ExtrapolationEnm extrapolation = ExtrapolationEnm::LINEAR;
   bool continueAnalysis = false;  ///< starts from the series at the end of the direct cyclic step before
+  // Terms and limits as usual in practice, not zero.
   int maxNumIterations = 200;
   int initialTerms = 11;  ///< of the series, below maxTerms
   int maxTerms = 25;      ///< below 100
@@ -44,7 +45,7 @@ class TVO_API kprC_DirectCyclicStep final : public kprC_IncrementalStep {
   int maxNumCycles = cls_NotGiven<int>;       ///< not given: the solver's own
   cow_String timePoints;                      ///< name of the times of the cycle that are hit exactly
   bool fatigue = false;                       ///< whether damage grows from cycle to cycle
-  double damageExtrapolationTolerance = 1.0;  ///< of use with fatigue alone
+  double damageExtrapolationTolerance = 1.0;  ///< of use with fatigue alone; 1.0 is usual
 
  private:
   void AssertSeries() const;

@@ -9,7 +9,7 @@ class TVO_API kprC_ETSControls : public kprC_CTDControls {
  public:
   kprC_ETSControls() = default;
 
-  cls_xp1DArrayListDouble electricalPotentialField = DefaultField();
+  List electricalPotentialField = DefaultField();
 
  protected:
   std::vector<FieldGroup> FieldGroups() const override;

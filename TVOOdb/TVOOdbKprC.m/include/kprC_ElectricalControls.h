@@ -9,7 +9,7 @@ class TVO_API kprC_ElectricalControls : public kprC_TypicalControls {
  public:
   kprC_ElectricalControls() = default;
 
-  cls_xp1DArrayListDouble electricalPotentialField = DefaultField();
+  List electricalPotentialField = DefaultField();
 
  protected:
   std::vector<FieldGroup> FieldGroups() const override;

@@ -20,5 +20,5 @@ class TVO_API kprC_EmagTimeHarmonicStep final : public kprC_AnalysisStep,
 
   KPRC_NAMED_CMD(constructorCmd, "EmagTimeHarmonicStep")
 
-  double timePeriod = 0.0;
+  double timePeriod = 1.0;
 };

@@ -35,12 +35,12 @@ class TVO_API kprC_ExplicitProcedure : public kprC_AnalysisStep {
   double timePeriod = 1.0;
   double userDefinedInc = cls_NotGiven<double>;  ///< of use with FIXED_USER_DEFINED_INC alone
   double maxIncrement = cls_NotGiven<double>;    ///< of use with automatic increments alone; not given: no limit
-  double scaleFactor = 1.0;                      ///< of the stable increment
+  double scaleFactor = 1.0;                      ///< of the stable increment; usually all of it is used
   // Enough to damp the ringing behind a shock and little enough to leave the rest alone.
   double linearBulkViscosity = 0.06;
   double quadBulkViscosity = 1.2;
   cls_xoList<kprC_MassScaling> massScaling;  ///< empty for none
-  bool improvedDtMethod = true;              ///< estimates the stable increment of an element by its full geometry
+  bool improvedDtMethod = true;              ///< takes the full geometry of an element for its stable increment; usual
 
  protected:
   NlgeomEnm OwnNlgeom() const override { return nlgeom; }

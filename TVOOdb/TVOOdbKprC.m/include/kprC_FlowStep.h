@@ -76,8 +76,11 @@ class TVO_API kprC_FlowStep final : public kprC_AnalysisStep {
 
   double timePeriod = 1.0;
   kprC_EnergyEquationEnm energyEquation = kprC_EnergyEquationEnm::ENERGY_NONE;
+  // Increments, tolerances and limits of the solvers as usual in practice, not zero.
   IncrementationEnm incrementation = FIXED_CFL;
-  double initialInc = 0.01;                      ///< the increment itself with FIXED_TIME
+  /// The increment itself with FIXED_TIME. Not the 0.0 of other steps: the increments are adjusted to the flow from the
+  /// first one on, so any small one will do, and a new step is valid.
+  double initialInc = 0.01;
   double divergenceTol = 1e-10;                  ///< largest divergence of the velocity
   double maximumCFL = 0.45;                      ///< of use with FIXED_CFL alone, as the next two
   int incAdjustmentFreq = 1;                     ///< increments between two adjustments of the increment
@@ -102,7 +105,7 @@ class TVO_API kprC_FlowStep final : public kprC_AnalysisStep {
   int transCheckingFreq = 2;
   double transConvergenceLimit = 1e-5;
   kprC_TurbulenceModelEnm turbulenceModel = kprC_TurbulenceModelEnm::TURB_NONE;
-  double turbPrandtlNumber = 0.85;
+  double turbPrandtlNumber = 0.85;  ///< as usual near walls
   // The constants as published with the models: from Cb1 those of SPALART, from Cmu on those of KEPS_RNG.
   double turbCb1 = 0.1355;
   double turbCb2 = 0.622;
@@ -124,7 +127,7 @@ class TVO_API kprC_FlowStep final : public kprC_AnalysisStep {
   double turbLambda0 = 4.38;
   PressureSolverEnm pressSolverType = CG;
   SmootherTypeEnm pressSmootherType = ICC;  ///< of the multigrid levels
-  int pressPreSweeps = 2;                   ///< of the smoother, 1 to 4
+  int pressPreSweeps = 2;                   ///< of the smoother, 1 to 4; 2 are usual, before and after
   int pressPostSweeps = 2;
   WeightingFactorEnm advectionFactor = TRAPEZOID;
 

@@ -16,6 +16,7 @@ class TVO_API kprC_FrequencyInterval {
   static constexpr double betweenModes = 3.0;
 
   explicit kprC_FrequencyInterval(double usualBias) : bias(usualBias) {}
+  ~kprC_FrequencyInterval() = default;
 
   /// Refuses fewer points than the two ends of a part.
   static void AssertPointsBetweenModes(int points, int code);
@@ -29,8 +30,12 @@ class TVO_API kprC_FrequencyInterval {
 /// steady-state steps take.
 class TVO_API kprC_FrequencyPoints : public kprC_FrequencyInterval {
  public:
-  int nPoints = 20;  ///< in the range, or in each part of one that is split; both ends among them
+  int nPoints = 20;  ///< in the range, or in each part of one that is split; both ends among them; 20 are usual
 
  protected:
   using kprC_FrequencyInterval::kprC_FrequencyInterval;
+  ~kprC_FrequencyPoints() = default;
+
+  /// Numbers 46, 43 and 44, of a range that is split at the eigenfrequencies.
+  void AssertSplitRange() const;
 };

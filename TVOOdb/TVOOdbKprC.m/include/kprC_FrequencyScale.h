@@ -10,6 +10,9 @@ class TVO_API kprC_FrequencyScale {
   KPRC_CMD(scale)
 
   ScaleEnm scale = LOGARITHMIC;
+
+ protected:
+  ~kprC_FrequencyScale() = default;
 };
 
 template <>

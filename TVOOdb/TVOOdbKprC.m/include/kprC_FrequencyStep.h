@@ -4,6 +4,8 @@
 #include "rgnC_Region.h"
 
 /// "Frequency": the natural frequencies and modes of the model. Frequencies are in cycles per unit of time.
+///
+/// A new step is not valid: the caller chooses `numEigen` or `maxEigen`.
 class TVO_API kprC_FrequencyStep final : public kprC_AnalysisStep {
   CLS_PERSISTENT(kprC, kprC_FrequencyStep)
 
@@ -12,13 +14,12 @@ class TVO_API kprC_FrequencyStep final : public kprC_AnalysisStep {
   enum NormalizationEnm { DISPLACEMENT = 0, MASS = 1 };
   enum AcousticEnm { AC_OFF = 0, AC_ON = 1, AC_PROJECTION = 2 };
 
-  /// Stands for ALL among the numbers of eigenvalues.
-  static constexpr int allEigenvalues = cls_NotGiven<int>;
-
   kprC_FrequencyStep();
 
   double TimePeriod() const override { return timePeriod; }
   bool SimBased() const override { return simLinearDynamics || eigensolver == AMS; }
+  /// Numbers 1, 2, 145, 95, 241 to 244, 247, 248 and, by the eigensolver, 252, 245, 161, 159, 3, 4, 251, 160, 87, 88 or
+  /// 89.
   void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "FrequencyStep")

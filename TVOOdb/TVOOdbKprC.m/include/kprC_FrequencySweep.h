@@ -13,6 +13,7 @@ class TVO_API kprC_FrequencySweep : public kprC_FrequencyScale {
   cls_xoList<Range> frequencyRange;
 
  protected:
+  ~kprC_FrequencySweep() = default;
   /// Refuses a step without frequencies.
   void AssertFrequencies(int code) const { kprC_Assert(!frequencyRange.IsEmpty(), code); }
 };

@@ -23,7 +23,7 @@ class TVO_API kprC_GeostaticStep final : public kprC_IncrementalStep {
   KPRC_CMD(solutionTechnique)
 
   NlgeomEnm nlgeom = OFF;
-  double utol = cls_NotGiven<double>;  ///< largest displacement; of use with automatic increments alone
+  double utol = cls_NotGiven<double>;  ///< largest change of displacement in an increment, of automatic ones
   int reformKernel = 8;                ///< iterations between two kernel matrices; of use with quasi-Newton alone
   SolutionTechniqueEnm solutionTechnique = FULL_NEWTON;
 

@@ -9,7 +9,7 @@ class TVO_API kprC_HeatTransferControls : public kprC_PrimaryControls {
  public:
   kprC_HeatTransferControls() = default;
 
-  cls_xp1DArrayListDouble temperatureField = DefaultField();
+  List temperatureField = DefaultField();
 
  protected:
   std::vector<FieldGroup> FieldGroups() const override;

@@ -24,10 +24,10 @@ class TVO_API kprC_HeatTransferStep final : public kprC_IncrementalStep {
   KPRC_CMD(reformKernel)
   KPRC_CMD(solutionTechnique)
 
-  ResponseEnm response = TRANSIENT;
+  ResponseEnm response = TRANSIENT;      ///< the usual one
   double end = cls_NotGiven<double>;     ///< rate of change below which the state counts as steady and ends the step
   double deltmx = cls_NotGiven<double>;  ///< largest change of temperature in an increment
-  double mxdem = 0.1;                    ///< largest change of emissivity in an increment
+  double mxdem = 0.1;                    ///< largest change of emissivity in an increment; 0.1 is usual
   AmplitudeEnm amplitude = RAMP;
   ExtrapolationEnm extrapolation = ExtrapolationEnm::LINEAR;
   int reformKernel = 8;  ///< iterations between two kernel matrices; of use with quasi-Newton alone

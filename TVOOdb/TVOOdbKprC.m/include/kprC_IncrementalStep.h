@@ -5,7 +5,7 @@
 /// Where procedures differ in what they ask of their increments.
 struct kprC_IncrementRules {
   int noInitialInc = 74;           ///< number that refuses an initial increment that is not positive
-  bool minIncFirst = false;        ///< maxInc is compared with minInc only, not with zero
+  bool minIncFirst = false;        ///< maxInc is compared with minInc and initialInc before it is with zero
   bool maxIncWithinPeriod = true;  ///< maxInc may not exceed the period
   bool maxIncOfSolver = false;     ///< the solver chooses maxInc
 };
@@ -19,6 +19,7 @@ class TVO_API kprC_IncrementalStep : public kprC_AnalysisStep {
  public:
   double TimePeriod() const override { return timePeriod; }
 
+  /// The smallest increment that the step proposes, of the second of two times.
   static constexpr double MinimumDef(double first, double second) noexcept { return TypicalMinimumDef(first, second); }
 
   KPRC_CMD(timeIncrementationMethod)

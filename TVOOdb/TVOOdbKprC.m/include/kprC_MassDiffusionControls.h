@@ -9,7 +9,7 @@ class TVO_API kprC_MassDiffusionControls : public kprC_PrimaryControls {
  public:
   kprC_MassDiffusionControls() = default;
 
-  cls_xp1DArrayListDouble concentrationField = DefaultField();
+  List concentrationField = DefaultField();
 
  protected:
   std::vector<FieldGroup> FieldGroups() const override;

@@ -20,7 +20,7 @@ class TVO_API kprC_MassDiffusionStep final : public kprC_IncrementalStep {
   KPRC_CMD(amplitude)
   KPRC_CMD(extrapolation)
 
-  ResponseEnm response = TRANSIENT;
+  ResponseEnm response = TRANSIENT;     ///< the usual one
   double end = cls_NotGiven<double>;    ///< rate of change below which the state counts as steady and ends the step
   double dcmax = cls_NotGiven<double>;  ///< largest change of normalized concentration in an increment
   AmplitudeEnm amplitude = RAMP;

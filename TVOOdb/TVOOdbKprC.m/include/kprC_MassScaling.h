@@ -5,6 +5,8 @@
 #include "rgnC_Region.h"
 
 /// One definition of how an explicit step adds mass so that it can take larger time increments.
+///
+/// A new definition is not valid: the caller gives `factor` or `dt`.
 class TVO_API kprC_MassScaling : public cls_Persistent {
   CLS_PERSISTENT(kprC, kprC_MassScaling)
 

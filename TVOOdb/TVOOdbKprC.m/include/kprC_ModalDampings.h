@@ -25,11 +25,7 @@ class TVO_API kprC_ModalDampings {
   cow_COW<kprC_RayleighDampingByFrequency, cow_Virtual<kprC_RayleighDampingByFrequency>> rayleighDampingByFrequency;
 
  protected:
-  /// Whether some dampings are given by modes and some by frequency.
-  bool MixesModesAndFrequencies() const {
-    bool const byModes = compositeDamping.HasValue() || directDamping.HasValue() || rayleighDamping.HasValue();
-    return byModes && (directDampingByFrequency.HasValue() || rayleighDampingByFrequency.HasValue());
-  }
+  ~kprC_ModalDampings() = default;
 };
 
 /// The same for responses in the frequency domain, where damping need not depend on the velocity.
@@ -41,4 +37,7 @@ class TVO_API kprC_StructuralModalDampings : public kprC_ModalDampings {
   cow_COW<kprC_StructuralDamping, cow_Virtual<kprC_StructuralDamping>> structuralDamping;
   cow_COW<kprC_StructuralDampingByFrequency, cow_Virtual<kprC_StructuralDampingByFrequency>>
       structuralDampingByFrequency;
+
+ protected:
+  ~kprC_StructuralModalDampings() = default;
 };

@@ -24,5 +24,5 @@ class TVO_API kprC_ModalDynamicsStep final : public kprC_AnalysisStep, public kp
   bool continueAnalysis = false;  ///< starts from the end of the modal step before
   double timePeriod = 1.0;
   double incSize = 0.0;
-  AmplitudeEnm amplitude = STEP;
+  AmplitudeEnm amplitude = STEP;  ///< not the RAMP of other steps, which is refused
 };

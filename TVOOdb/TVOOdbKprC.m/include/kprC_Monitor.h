@@ -12,6 +12,6 @@ class TVO_API kprC_Monitor : public cls_Persistent {
   /// Refuses a degree of freedom below 1 with number 123.
   virtual void AssertValid() const;
 
-  int dof = 1;
-  rgnC_Region node;
+  int dof = 1;       ///< its number, from 1
+  rgnC_Region node;  ///< a region of one node
 };

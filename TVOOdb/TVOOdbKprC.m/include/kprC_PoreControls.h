@@ -9,7 +9,7 @@ class TVO_API kprC_PoreControls : public kprC_TypicalControls {
  public:
   kprC_PoreControls() = default;
 
-  cls_xp1DArrayListDouble poreFluidPressureField = DefaultField();
+  List poreFluidPressureField = DefaultField();
 
  protected:
   std::vector<FieldGroup> FieldGroups() const override;

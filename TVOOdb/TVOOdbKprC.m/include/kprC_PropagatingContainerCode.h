@@ -344,7 +344,7 @@ void kprC_PropagatingContainer<T>::SuppressResumeStep(kprC_StepList const& newLi
 
 template <class T>
 cls_xoList<rgnC_Region> kprC_PropagatingContainer<T>::DanglingRegions() {
-  cls_xoList<rgnC_Region> const regions = danglingRegions;
+  cls_xoList<rgnC_Region> regions = danglingRegions;
   danglingRegions = cls_xoList<rgnC_Region>();
   return regions;
 }

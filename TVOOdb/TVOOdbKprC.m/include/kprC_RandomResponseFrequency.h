@@ -11,5 +11,5 @@ class TVO_API kprC_RandomResponseFrequency : public cls_Persistent, public kprC_
   /// Numbers 35, 36 and 44.
   void AssertValid() const;
 
-  int nCalcs = 20;  ///< points in each part, both ends among them
+  int nCalcs = 20;  ///< points in each part, both ends among them; 20 are usual
 };

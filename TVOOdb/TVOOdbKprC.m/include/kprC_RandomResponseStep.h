@@ -24,6 +24,6 @@ class TVO_API kprC_RandomResponseStep final : public kprC_AnalysisStep,
   KPRC_CMD(selectedEigenmodes)
 
   cls_xoList<kprC_RandomResponseFrequency> freq;  ///< ranges of frequencies to work through
-  double timePeriod = 0.0;
+  double timePeriod = 1.0;
   cls_xp1DArrayListInt selectedEigenmodes;  ///< modes that take part; all of them if empty
 };

@@ -18,6 +18,6 @@ class TVO_API kprC_ResponseSpectrumComponent : public cls_Persistent {
   double x = 0.0;       ///< the direction, of any length
   double y = 0.0;
   double z = 0.0;
-  double scale = 1.0;         ///< factor of the spectrum
+  double scale = 1.0;         ///< factor of the spectrum, usually none
   double timeDuration = 0.0;  ///< of the event; of use with the double sum combination alone
 };

@@ -24,7 +24,7 @@ class TVO_API kprC_ResponseSpectrumStep final : public kprC_AnalysisStep, public
   kprC_ResponseSpectrumStep() = default;
 
   double TimePeriod() const override { return timePeriod; }
-  /// Numbers 38, 145, 165 and 302. Otherwise the dampings and components are asked by themselves.
+  /// Numbers 38, 165, 302 and 145. Otherwise the dampings and components are asked by themselves.
   void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "ResponseSpectrumStep")
@@ -35,7 +35,11 @@ class TVO_API kprC_ResponseSpectrumStep final : public kprC_AnalysisStep, public
   CompEnm comp = SINGLE_DIRECTION;
   SummationEnm summation = ABS;
   cls_xoList<kprC_ResponseSpectrumComponent> components;  ///< one for each direction, at most three
-  double timePeriod = 0.0;
+  double timePeriod = 1.0;
+
+ private:
+  /// Whether some dampings are given by modes and some by frequency.
+  bool MixesModesAndFrequencies() const;
 };
 
 template <>

@@ -11,9 +11,11 @@ class TVO_API kprC_Restart : public cls_Persistent {
 
  public:
   kprC_Restart() = default;
+  /// Refuses nothing by itself; the kinds of solvers refuse numbers of their own.
   virtual void AssertValid() const {}
-  /// Refuses a request that a step cannot meet: any in the initial step with number 158, what needs increments that
-  /// can be cut with 174 to 176.
+  /// Refuses a request that a step cannot meet: any in the initial step with number 158, an overlay of frequency and
+  /// buckling steps with 174, exact times with 175 and intervals with 176 where the procedure or fixed increments rule
+  /// them out.
   void AssertAllowedIn(kprC_Step const& step) const;
   /// States at even times; 0 if they are written otherwise.
   virtual int NumberIntervals() const { return 0; }

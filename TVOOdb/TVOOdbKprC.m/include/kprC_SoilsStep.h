@@ -30,8 +30,8 @@ class TVO_API kprC_SoilsStep final : public kprC_IncrementalStep, public kprC_St
 
   NlgeomEnm nlgeom = OFF;
   SoilsResponseEnm response = SoilsResponseEnm::CONSOLIDATION;
-  double end = cls_NotGiven<double>;  ///< rate of change below which the state counts as steady and ends the step
-  bool creepBehavior = true;
+  double end = cls_NotGiven<double>;    ///< rate of change below which the state counts as steady and ends the step
+  bool creepBehavior = true;            ///< as soils usually have
   double cetol = cls_NotGiven<double>;  ///< largest difference of creep strain increments
   double utol = cls_NotGiven<double>;   ///< largest change of pore pressure in an increment
   AmplitudeEnm amplitude = RAMP;

@@ -17,9 +17,10 @@ class TVO_API kprC_StaticLinearPerturbationStep final : public kprC_AnalysisStep
   KPRC_CMD(gapDistance)
   KPRC_CMD(scaleFactor)
 
-  double timePeriod = 0.0;
+  double timePeriod = 1.0;
   SolutionTechniqueEnm solutionTechnique = FULL_NEWTON;
-  /// Of use with LCP_CONTACT alone: up to which distance gaps are looked at, and a factor of it.
+  /// Of use with LCP_CONTACT alone: up to which distance gaps are looked at, and a factor of it, which
+  /// usually is none.
   double gapDistance = cls_NotGiven<double>;
   double scaleFactor = 1.0;
 };

@@ -40,8 +40,8 @@ class TVO_API kprC_StaticRiksStep final : public kprC_AnalysisStep {
   bool adiabatic = false;
   TimeIncrementationMethodEnm timeIncrementationMethod = AUTOMATIC;
   int maxNumInc = 100;
-  double initialArcInc = 0.0;  ///< the increment itself, if all are to be the same
-  double totalArcLength = 1.0;
+  double initialArcInc = 0.0;               ///< the increment itself, if all are to be the same
+  double totalArcLength = 1.0;              ///< usual: of the order of the step's full load
   double minArcInc = cls_NotGiven<double>;  ///< of use with automatic increments alone, as maxArcInc
   double maxArcInc = cls_NotGiven<double>;
   double maxLPF = cls_NotGiven<double>;  ///< load proportionality factor at which the step ends

@@ -24,6 +24,6 @@ class TVO_API kprC_SteadyStateDirectStep final : public kprC_AnalysisStep,
   KPRC_NAMED_CMD(constructorCmd, "SteadyStateDirectStep")
   KPRC_CMD(subdivideUsingEigenfrequencies)
 
-  double timePeriod = 0.0;
+  double timePeriod = 1.0;
   bool subdivideUsingEigenfrequencies = false;  ///< ends parts of the ranges at the eigenfrequencies
 };

@@ -9,5 +9,5 @@ class TVO_API kprC_SteadyStateModalFrequency : public cls_Persistent, public kpr
  public:
   kprC_SteadyStateModalFrequency() : kprC_FrequencyPoints(betweenModes) {}
   /// Numbers 46, 43 and 44.
-  void AssertValid() const;
+  void AssertValid() const { AssertSplitRange(); }
 };

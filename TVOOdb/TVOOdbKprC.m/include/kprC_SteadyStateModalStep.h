@@ -24,6 +24,6 @@ class TVO_API kprC_SteadyStateModalStep final : public kprC_AnalysisStep,
   KPRC_NAMED_CMD(constructorCmd, "SteadyStateModalStep")
   KPRC_CMD(subdivideUsingEigenfrequencies)
 
-  double timePeriod = 0.0;
-  bool subdivideUsingEigenfrequencies = true;  ///< ends parts of the ranges at the eigenfrequencies
+  double timePeriod = 1.0;
+  bool subdivideUsingEigenfrequencies = true;  ///< ends parts of the ranges at the eigenfrequencies; usual
 };

@@ -21,7 +21,7 @@ class TVO_API kprC_SteadyStateSubspaceStep final : public kprC_AnalysisStep,
   kprC_SteadyStateSubspaceStep() = default;
 
   double TimePeriod() const override { return timePeriod; }
-  /// Numbers 45, 145 and 162. The ranges are asked by themselves.
+  /// Numbers 45, 162 and 145. The ranges are asked by themselves.
   void AssertValid() const override;
 
   KPRC_NAMED_CMD(constructorCmd, "SteadyStateSubspaceStep")
@@ -31,10 +31,11 @@ class TVO_API kprC_SteadyStateSubspaceStep final : public kprC_AnalysisStep,
   KPRC_CMD(subdivideUsingEigenfrequencies)
 
   ProjectionEnm projection = ALL_FREQUENCIES;
-  double timePeriod = 0.0;
-  double maxDampingChange = 0.1;  ///< share by which the damping may change before a new projection, as the next one
+  double timePeriod = 1.0;
+  /// Share by which the damping and the stiffness may change before a new projection; 0.1 is usual.
+  double maxDampingChange = 0.1;
   double maxStiffnessChange = 0.1;
-  bool subdivideUsingEigenfrequencies = true;  ///< ends parts of the ranges at the eigenfrequencies
+  bool subdivideUsingEigenfrequencies = true;  ///< ends parts of the ranges at the eigenfrequencies; usual
 };
 
 template <>

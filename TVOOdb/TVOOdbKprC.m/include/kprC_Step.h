@@ -37,28 +37,39 @@ class TVO_API kprC_Step : public cls_Persistent {
     SOLVER_DEFAULT = 5,
   };
   enum class MatrixStorageEnm { SOLVER_DEFAULT = 0, SYMMETRIC = 1, UNSYMMETRIC = 2 };
-  enum EigensolverEnm { SUBSPACE = 0, LANCZOS = 1, AMS = 2 };
+  enum EigensolverEnm : int { SUBSPACE = 0, LANCZOS = 1, AMS = 2 };
   enum class ExtrapolationEnm { LINEAR = 0, PARABOLIC = 1, NONE = 2, VELOCITY_PARABOLIC = 3, DEFAULT = 4 };
   enum AmplitudeEnm { STEP = 0, RAMP = 1 };
   enum class ConvertSDIEnm { CONVERT_SDI_OFF = 0, CONVERT_SDI_ON = 1, PROPAGATED = 2 };
   enum class DefaultEnm { DEFAULT = 0 };
 
+  /// Stands for ALL among the numbers of eigenvalues.
+  static constexpr int allEigenvalues = cls_NotGiven<int>;
+
   /// Whether heat stays where it arises.
   virtual bool IsAdiabatic() const { return false; }
+  /// Whether the step may have load cases, and domains of the adaptive mesh.
   virtual bool AllowLoadCases() const { return Answers().allowLoadCases; }
   virtual bool AllowAdaptiveMeshDomains() const { return Answers().allowAdaptiveMeshDomains; }
   /// The type identifier of the procedure; 1 for the initial step.
   virtual unsigned int ProcedureType() const { return DynTypeId(); }
+  /// Whether the procedure solves for no displacements.
   virtual bool Nonmechanical() const { return Answers().nonmechanical; }
+  /// Whether the step is one of an explicit analysis.
   virtual bool Explicit() const { return Answers().isExplicit; }
+  /// Steady or transient, of the procedures that tell them apart.
   virtual ResponseEnm Response() const;
-  /// Length of the step in the model's unit of time; 0.0 for procedures outside time.
+  /// Length of the step in the model's unit of time; 0.0 for a class without one. Linear perturbations outside time
+  /// have a period, too, which says nothing.
   virtual double TimePeriod() const { return 0.0; }
+  /// Whether the step takes changes of the geometry into account; kprC_StepContainer::Nlgeom() carries that over steps.
   virtual NlgeomEnm Nlgeom() const;
   /// Whether the step is a linear perturbation about the state that the last general step left. Constant time.
   virtual bool Perturbation() const { return Answers().perturbation; }
-  /// Raises nex_PrimException<atr_String, 1> for the first parameter that is out of its range.
+  /// Raises nex_PrimException<atr_String, 1> for the first parameter that is out of its range. The objects in the step
+  /// are asked by themselves, all those of an attribute by its cls_Attribute::AssertPartsValid().
   virtual void AssertValid() const {}
+  /// Whether the step is one of an analysis of flow.
   virtual bool Flow() const { return DynTypeId() == kprC_Procedure::Flow; }
   /// Whether the step's results are kept in the form that linear dynamics works on.
   virtual bool SimBased() const { return false; }

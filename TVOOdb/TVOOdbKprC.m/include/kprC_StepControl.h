@@ -4,6 +4,8 @@
 #include "kprC_Types.h"
 #include "omu_EnumCodec.h"
 
+class kprC_StepContainer;
+
 /// Which value of a sensor is held against its threshold.
 class TVO_API kprC_StepControlSensorThresholdCriteria : public cls_Persistent {
   CLS_PERSISTENT(kprC, kprC_StepControlSensorThresholdCriteria)
@@ -31,16 +33,22 @@ class TVO_API kprC_StepControl : public cls_Persistent {
   kprC_StepControl() = default;
   /// Refuses to go on without a refinement of the time increment with number 317.
   void AssertValid() const;
+  /// Refuses to edit a suppressed control with number 315.
+  void AssertEditable() const;
+  /// Refuses a sensor that is none of the active ones of the history output with number 318.
+  void AssertSensorsAreAmong(cow_List<cow_String> const& activeSensors) const;
+  /// Refuses a name that a control of any of the steps has already with number 316.
+  static void AssertNameIsNew(kprC_StepContainer const& steps, cow_String const& name);
 
-  ActionEnum action = END_STEP;
-  DTRefinementEnum dtRefinement = AUTO;
-  double tolerance = cls_NotGiven<double>;
-  cls_xp1DArrayListString sensorNames;
+  ActionEnum action = END_STEP;             ///< not CONTINUE, which needs a refinement
+  DTRefinementEnum dtRefinement = AUTO;     ///< whether the increment shrinks as a sensor comes near its threshold
+  double tolerance = cls_NotGiven<double>;  ///< fraction by which a threshold may be missed; not given: the solver's
+  cls_xp1DArrayListString sensorNames;      ///< of the history output
   cls_xoList<kprC_StepControlSensorThresholdCriteria> sensorThresholdCriteriaValues;
-  cls_xp1DArrayListDouble sensorThresholdValues;
-  cls_xp1DArrayListDouble timeIncrementValues;
-  cls_xp1DArrayListDouble sensorStartValues;
-  cls_xp1DArrayListDouble sensorEndValues;
+  cls_xp1DArrayListDouble sensorThresholdValues;  ///< in the unit of the sensor, as the last two lists
+  cls_xp1DArrayListDouble timeIncrementValues;    ///< the refined increment, in the model's unit of time
+  cls_xp1DArrayListDouble sensorStartValues;      ///< where the refinement begins
+  cls_xp1DArrayListDouble sensorEndValues;        ///< where it ends
   bool suppress = false;
 };
 

@@ -4,7 +4,7 @@
 #include "kprC_Types.h"
 #include "omu_EnumCodec.h"
 
-/// Which value of a sensor is held against its threshold.
+/// Which value of a quantity is held against the threshold that ends the repetition.
 class TVO_API kprC_StepCyclingControlThresholdCriteria : public cls_Persistent {
   CLS_PERSISTENT(kprC, kprC_StepCyclingControlThresholdCriteria)
 
@@ -20,7 +20,8 @@ template <>
 inline constexpr omu_EnumRow omu_EnumRows<kprC_StepCyclingControlThresholdCriteria::DefinitionEnum>[] = {
     {"NONE", 0}, {"MAX", 1}, {"MIN", 2}, {"ABS_MAX", 3}, {"ABS_MIN", 4}, {nullptr, 0}};
 
-/// When the repetition of steps ends: sensors pass their thresholds, or nodes have worn far enough.
+/// When the repetition of steps ends: sensors pass their thresholds, or nodes have worn far enough. The lists run in
+/// parallel, one place for each sensor or node.
 class TVO_API kprC_StepCyclingControl : public cls_Persistent {
   CLS_PERSISTENT(kprC, kprC_StepCyclingControl)
 
@@ -32,12 +33,12 @@ class TVO_API kprC_StepCyclingControl : public cls_Persistent {
 
   ActionEnum action = END_CYCLING;
   CriterionEnum criterion = SENSOR_BASED;
-  cls_xp1DArrayListString sensorNames;
-  cls_xp1DArrayListDouble sensorThresholdValues;
-  cls_xp1DArrayListString nodeNames;
+  cls_xp1DArrayListString sensorNames;             ///< of use with SENSOR_BASED alone, as the next
+  cls_xp1DArrayListDouble sensorThresholdValues;   ///< in the unit of the sensor
+  cls_xp1DArrayListString nodeNames;               ///< of use with WEAR_BASED alone, as the next two
   cls_xp1DArrayListDouble wearThresholdDistances;  ///< in the model's unit of length, as the next
   cls_xp1DArrayListDouble wearMaxTargetDistances;
-  cls_xoList<kprC_StepCyclingControlThresholdCriteria> thresholdCriteriaValues;
+  cls_xoList<kprC_StepCyclingControlThresholdCriteria> thresholdCriteriaValues;  ///< of either criterion
   bool suppress = false;
 };
 

@@ -55,7 +55,7 @@ class TVO_API kprC_SubstructureGenerateStep final : public kprC_AnalysisStep {
   KPRC_CMD(recoveryMatrix)
   KPRC_CMD(flexibleBody)
 
-  double timePeriod = 0.0;
+  double timePeriod = 1.0;
   cls_xoList<kprC_RetainedDofs> retainedDofsList;
   cls_xoList<kprC_RetainedDofs> eliminatedDofsList;  ///< taken out of the retained ones
   cls_xp1DArrayListInt retainedEigenmodes;           ///< numbers of single modes
@@ -76,7 +76,7 @@ class TVO_API kprC_SubstructureGenerateStep final : public kprC_AnalysisStep {
   RetainedEigenmodesEnm retainedEigenmodesEnm = RetainedEigenmodesEnm::NONE;
   cls_xoList<kprC_FrequencyRange> frequencyRange;  ///< modes that are kept, as modeRange
   cls_xoList<kprC_ModeRange> modeRange;
-  RecoveryMatrixEnm recoveryMatrix = RecoveryMatrixEnm::WHOLE_MODEL;
+  RecoveryMatrixEnm recoveryMatrix = RecoveryMatrixEnm::WHOLE_MODEL;  ///< the usual one
   FlexibleBodyEnum flexibleBody = FlexibleBodyEnum::NONE;
 };
 

@@ -4,6 +4,8 @@
 #include "kprC_Types.h"
 
 /// Times of a step at which output is written; a definition of the model that output requests refer to by name.
+///
+/// A new object is not valid: it has no times.
 class TVO_API kprC_TimePoint : public cls_Persistent {
   CLS_PERSISTENT(kprC, kprC_TimePoint)
 

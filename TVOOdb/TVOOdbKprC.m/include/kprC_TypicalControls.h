@@ -9,9 +9,9 @@ class TVO_API kprC_TypicalControls : public kprC_PrimaryControls {
  public:
   kprC_TypicalControls() = default;
 
-  cls_xp1DArrayListDouble displacementField = DefaultField();
-  cls_xp1DArrayListDouble hydrostaticFluidPressureField = DefaultField();
-  cls_xp1DArrayListDouble rotationField = DefaultField();
+  List displacementField = DefaultField();
+  List hydrostaticFluidPressureField = DefaultField();
+  List rotationField = DefaultField();
 
  protected:
   std::vector<FieldGroup> FieldGroups() const override;

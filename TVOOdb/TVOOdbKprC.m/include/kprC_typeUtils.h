@@ -5,6 +5,7 @@
 // Questions about a procedure, by its type identifier. All are constant time and answer false for an identifier that is
 // no analysis procedure, such as the initial step's 0 or the 1 of a suppressed step.
 
+/// Procedures of an explicit analysis, of flow, and of electromagnetics.
 TVO_API bool kprC_IsExplicit(unsigned int procedure);
 TVO_API bool kprC_IsFlow(unsigned int procedure);
 TVO_API bool kprC_IsEmag(unsigned int procedure);

@@ -9,3 +9,9 @@ void kprC_FrequencyInterval::AssertRangeOrSingleFrequency() const {
 }
 
 void kprC_FrequencyInterval::AssertBias() const { kprC_Assert(bias != 0.0, 44); }
+
+void kprC_FrequencyPoints::AssertSplitRange() const {
+  AssertPointsBetweenModes(nPoints, 46);
+  AssertRangeOrSingleFrequency();
+  AssertBias();
+}

@@ -9,13 +9,12 @@ void kprC_IncrementalStep::AssertIncrements(kprC_IncrementRules const& rules) co
   kprC_Assert(maxNumInc > 0, 5);
   if (timeIncrementationMethod != AUTOMATIC) return;
   kprC_Assert(minInc > 0.0, 75);
-  if (!rules.maxIncOfSolver) {
-    kprC_Assert(rules.minIncFirst || maxInc > 0.0, 76);
-    kprC_Assert(maxInc >= minInc, 82);
-  }
+  bool const maxIncCounts = !rules.maxIncOfSolver;
+  if (maxIncCounts && !rules.minIncFirst) kprC_Assert(maxInc > 0.0, 76);
+  if (maxIncCounts) kprC_Assert(maxInc >= minInc, 82);
   kprC_Assert(initialInc >= minInc, 83);
-  if (!rules.maxIncOfSolver) {
-    kprC_Assert(maxInc >= initialInc, 81);
-    kprC_Assert(!rules.maxIncWithinPeriod || timePeriod >= maxInc, 80);
-  }
+  if (!maxIncCounts) return;
+  kprC_Assert(maxInc >= initialInc, 81);
+  if (rules.minIncFirst) kprC_Assert(maxInc > 0.0, 76);
+  kprC_Assert(!rules.maxIncWithinPeriod || timePeriod >= maxInc, 80);
 }

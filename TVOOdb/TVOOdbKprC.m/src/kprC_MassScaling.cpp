@@ -18,7 +18,8 @@ cls_AttributeTable const& kprC_MassScaling::Attributes() {
                                 .Attribute("extrudedLength", &Self::extrudedLength)
                                 .Attribute("crossSection", &Self::crossSection)
                                 .Attribute("direction", &Self::direction)
-                                .Attribute("region", &Self::region);
+                                .Attribute("region", &Self::region)
+                                .Constructor("MassScaling");
   return table;
 }
 

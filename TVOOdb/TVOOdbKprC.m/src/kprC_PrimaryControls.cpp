@@ -9,15 +9,18 @@
 
 namespace {
 
-// Places in the list of time incrementation, and in that of a field.
-enum Place {
+// Places in the list of time incrementation.
+enum TimePlace {
   firstGrowthCheck = 0,
   firstRateCheck = 1,
   accurateIncrements = 9,
   lastInteger = 10,
   stabilityFraction = 26,
   timeStretch = 27,
+};
 
+// Places in the list of a field.
+enum FieldPlace {
   initialFlux = 2,
   userFlux = 3,
   zeroFlux = 5,
@@ -29,7 +32,9 @@ bool IsInteger(double number) {
   return std::modf(number, &whole) == 0.0;
 }
 
-bool IsGiven(cow_List<double> const& numbers, int place) { return place < numbers.Length() && numbers[place] != 0.0; }
+bool IsGiven(cow_List<double> const& numbers, FieldPlace place) {
+  return place < numbers.Length() && numbers[place] != 0.0;
+}
 
 }  // namespace
 
@@ -80,7 +85,9 @@ void kprC_PrimaryControls::AssertValid() const {
   for (FieldGroup const& group : groups) {
     List const& numbers = this->*group.numbers;
     AssertNumbers(numbers, defaultField, group.refusals.extraneous);
-    for (Place const place : {zeroFlux, zeroLocalFlux}) kprC_Assert(place >= numbers.Length() || numbers[place] > 0.0, 113);
+    for (FieldPlace const place : {zeroFlux, zeroLocalFlux}) {
+      kprC_Assert(place >= numbers.Length() || numbers[place] > 0.0, 113);
+    }
     kprC_Assert(!IsGiven(numbers, initialFlux) || !IsGiven(numbers, userFlux), group.refusals.bothFluxes);
   }
 }

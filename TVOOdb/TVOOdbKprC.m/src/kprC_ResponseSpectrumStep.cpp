@@ -18,6 +18,11 @@ cls_AttributeTable const& kprC_ResponseSpectrumStep::Attributes() {
   return table;
 }
 
+bool kprC_ResponseSpectrumStep::MixesModesAndFrequencies() const {
+  bool const byModes = compositeDamping.HasValue() || directDamping.HasValue() || rayleighDamping.HasValue();
+  return byModes && (directDampingByFrequency.HasValue() || rayleighDampingByFrequency.HasValue());
+}
+
 void kprC_ResponseSpectrumStep::AssertValid() const {
   kprC_Assert(components.Length() <= 3, 38);
   kprC_Assert(!MixesModesAndFrequencies(), 165);

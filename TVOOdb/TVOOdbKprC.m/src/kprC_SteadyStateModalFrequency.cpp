@@ -13,9 +13,3 @@ cls_AttributeTable const& kprC_SteadyStateModalFrequency::Attributes() {
                                 .Constructor("SteadyStateModalFrequency");
   return table;
 }
-
-void kprC_SteadyStateModalFrequency::AssertValid() const {
-  AssertPointsBetweenModes(nPoints, 46);
-  AssertRangeOrSingleFrequency();
-  AssertBias();
-}

@@ -13,9 +13,3 @@ cls_AttributeTable const& kprC_SteadyStateSubspaceFrequency::Attributes() {
                                 .Constructor("SteadyStateSubspaceFrequency");
   return table;
 }
-
-void kprC_SteadyStateSubspaceFrequency::AssertValid() const {
-  AssertPointsBetweenModes(nPoints, 46);
-  AssertRangeOrSingleFrequency();
-  AssertBias();
-}

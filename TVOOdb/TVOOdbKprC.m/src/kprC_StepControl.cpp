@@ -2,6 +2,8 @@
 
 #include "cls_Describe.h"
 #include "cls_Registrar.h"
+#include "kprC_AnalysisStep.h"
+#include "kprC_StepContainer.h"
 #include "kprC_assert.h"
 
 cls_AttributeTable const& kprC_StepControlSensorThresholdCriteria::Attributes() {
@@ -28,3 +30,16 @@ cls_AttributeTable const& kprC_StepControl::Attributes() {
 }
 
 void kprC_StepControl::AssertValid() const { kprC_Assert(action != CONTINUE || dtRefinement == YES, 317); }
+
+void kprC_StepControl::AssertEditable() const { kprC_Assert(!suppress, 315); }
+
+void kprC_StepControl::AssertSensorsAreAmong(cow_List<cow_String> const& activeSensors) const {
+  for (cow_String const& name : sensorNames) kprC_Assert(activeSensors.IsMember(name), 318);
+}
+
+void kprC_StepControl::AssertNameIsNew(kprC_StepContainer const& steps, cow_String const& name) {
+  for (cow_String const& key : steps.Keys()) {
+    auto const* const step = dynamic_cast<kprC_AnalysisStep const*>(&steps.ConstGet(key));
+    kprC_Assert(step == nullptr || !step->scc.IsMember(name), 316);
+  }
+}

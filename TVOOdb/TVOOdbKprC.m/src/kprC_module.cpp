@@ -14,6 +14,9 @@ constexpr ddr_ModuleClass classes[] = {
     CLASS(3, mdl_ExtensionWrapper<kprC_StepContainer>)
     CLASS(7, kprC_StepContainer)
     DDR_CONTAINER_SHORTCUT_CLASSES(kprC_StepContainer, kprC_Step)
+    CLASS(3, kprC_TimePointContainer)
+    CLASS(3, mdl_ExtensionWrapper<kprC_TimePointContainer>)
+    DDR_CONTAINER_SHORTCUT_CLASSES(kprC_TimePointContainer, kprC_TimePoint)
 #include "kprC_classes.inc"
 #undef CLASS
 };
@@ -21,6 +24,8 @@ constexpr ddr_ModuleClass classes[] = {
 constexpr ddr_ModuleContainer containers[] = {
     {[] { ddr_Model::RegisterStepContainer(new mdl_ExtensionWrapper<kprC_StepContainer>()); },
      &ddr_Model::UnRegisterStepContainer},
+    {[] { ddr_Model::RegisterTimePointContainer(new mdl_ExtensionWrapper<kprC_TimePointContainer>()); },
+     &ddr_Model::UnRegisterTimePointContainer},
 };
 
 constexpr void (*singletonEnds[])() = {&kprC_ProcedureTypeLabelMap::Finalize, &kprC_LabelsBitMap::Finalize};

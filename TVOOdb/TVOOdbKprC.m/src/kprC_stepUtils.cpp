@@ -16,7 +16,8 @@ constexpr kprC_ProcedureSet inTimeWhenTransient(CoupledTempDisplacement, Coupled
 
 bool IsTransient(kprC_Step const& step) { return step.Response() == kprC_Step::TRANSIENT; }
 
-// Classes have enumerations of their own for the method; all fixed ones begin alike.
+// Asked of the attribute, since a step that a host defines may have it, too, perhaps with words of its own that begin
+// alike.
 bool HasFixedIncrements(kprC_Step const& step) {
   cls_Attribute const* const method = step.DynAttributes().Find("timeIncrementationMethod");
   return method != nullptr && method->Text(step).starts_with("FIXED");
