@@ -127,7 +127,7 @@ def main(paths):
         archive, sqlite = (rows[f"{what}_{other}"]["baseline"].get(0) for other in ("archive", "sqlite"))
         if archive and sqlite:
             print(f"To {what}, the archive of the same objects, which checks nothing, is {sqlite[0] / archive[0]:.1f} times "
-                  "as fast as SQLite, which has ready rows and builds no objects.")
+                  "as fast as SQLite, which gets ready rows and builds no objects.")
     return 0 if all(line[-1] in ("yes", "-") for line in table[1:]) else 1
 
 

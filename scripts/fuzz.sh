@@ -26,7 +26,7 @@ for target in open_file edit_model; do
   say "$target"
   mkdir -p "$builds/fuzz_corpus/$target"
   "$builds/$folder/fuzz/${target}_fuzz" -max_total_time="$seconds" -runs="$runs" -timeout=20 -rss_limit_mb=4096 -max_len=8192 \
-    -print_final_stats=1 -artifact_prefix="$builds/fuzz_finds/$target-" \
+    -entropic=0 -print_final_stats=1 -artifact_prefix="$builds/fuzz_finds/$target-" \
     "$builds/fuzz_corpus/$target" "$root/fuzz/corpus/$target" 2>&1 |
     grep -Ev '^(#|INFO: -max_len|INFO: A corpus)' || { [ "${PIPESTATUS[0]}" -eq 0 ] || exit 1; }
 done

@@ -109,7 +109,7 @@ class cow_CountedHld
     if (object && !counter_) {
       std::unique_ptr<T> guard(object);
       counter_ = ::new (mem_OperatorNewTinyThrow(sizeof(int))) int(1);
-      guard.release();
+      static_cast<void>(guard.release());
     }
     Destroy(std::exchange(object_, object));
   }

@@ -3,6 +3,7 @@
 #include "mem_Allocation.h"
 
 #include <algorithm>
+#include <concepts>
 #include <cstddef>
 #include <memory>
 #include <new>
@@ -48,6 +49,7 @@ class cow_MapSlots
   {
    public:
     template <class U>
+      requires(!std::same_as<std::remove_cvref_t<U>, Ready>)
     explicit Ready(U&& value) : stored_(Make(std::forward<U>(value)))
     {
     }

@@ -6,7 +6,7 @@
 
 namespace {
 
-[[noreturn]] void Refuse(std::string text) {
+[[noreturn]] void Refuse(std::string const& text) {
   nex_CmdException<cow_String, 1>(cow_String(text)).Throw(__FILE__, __LINE__);
 }
 

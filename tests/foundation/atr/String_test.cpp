@@ -33,7 +33,7 @@ TEST(StringTest, SharesCharactersUntilItIsChanged) {
   EXPECT_EQ(a, "Step-1");
   EXPECT_EQ(b, "Step-1-CopyStep-1-Copy");
   cow_String c = std::move(b);
-  EXPECT_TRUE(b.IsEmpty());
+  EXPECT_TRUE(b.IsEmpty());  // NOLINT(bugprone-use-after-move): what is left is what is asked
   c = static_cast<cow_String const&>(c);
   EXPECT_EQ(c.Length(), 22);
   c = a;
