@@ -144,14 +144,15 @@ class ModelInvariants {
     }
   }
 
-  /// The classes of objects, of their states and quads. A step that was edited may stand in a repository's list as it
+  /// The classes of objects, of their states, quads and plain values. A step that was edited may stand in a repository's list as it
   /// was before, with the same identity.
   static std::set<unsigned int> const& ClassesOfObjects() {
     static std::set<unsigned int> const classes = [] {
       std::set<unsigned int> found;
       for (auto const& [typeId, metadata] : cls_ClassRegistrar::Present().All()) {
         cls_AttributeTable const* const table = metadata->Attributes();
-        if (metadata->Name().View().starts_with("kprC_PropagatingState")) found.insert(typeId);
+        std::string_view const name = metadata->Name().View();
+        if (name.starts_with("kprC_PropagatingState") || name.starts_with("mdl_PropAttr<")) found.insert(typeId);
         if (table == nullptr || table->StepState() == nullptr) continue;
         found.insert({typeId, table->StepState()->TypeId()});
       }

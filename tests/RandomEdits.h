@@ -25,9 +25,7 @@ class RandomEdits {
   std::string Next(EditedModel const& model) {
     std::string const step = KnownStep(model);
     std::string const other = KnownStep(model);
-    std::string const object = AnyOf({"p", "q", "r", "s"});
-    auto const repositories = model.Repositories();
-    std::string const repository = repositories[choose_(static_cast<unsigned>(repositories.size()))]->RepositoryName();
+    auto const [repository, object] = AnyObject(model);
     switch (choose_(16)) {
       case 0:
       case 1:
@@ -39,16 +37,18 @@ class RandomEdits {
       case 3:
       case 4:
       case 5: {
-        auto const& type = *objectTypes_[choose_(static_cast<unsigned>(objectTypes_.size()))];
-        return std::string("create ") + type.ScriptingName().CStr() + ' ' + object + " createStepName=" + step +
-               (choose_(4) == 0 ? Settings(type) : "") + Settings(*type.StepState());
+        auto const& type = AnyObjectType();
+        std::string const setting = choose_(2) == 0 ? UsualValue(*type.StepState()) : Settings(*type.StepState());
+        return std::string("create ") + type.ScriptingName().CStr() + ' ' + AnyOf({"p", "q", "r", "s"}) +
+               " createStepName=" + step + (choose_(4) == 0 ? Settings(type) : "") + setting;
       }
       case 6:
       case 7: {
         auto const& known = *model.FindRepository(repository);
-        std::string line = "setInStep " + repository + ' ' + object + " stepName=" + step;
-        if (known.IsMember(object)) line += Settings(*known.ConstGetObject(object).DynAttributes().StepState());
-        return line;
+        std::string const line = "setInStep " + repository + ' ' + object + " stepName=" + step;
+        if (!known.IsMember(object)) return line;
+        auto const& state = *known.ConstGetObject(object).DynAttributes().StepState();
+        return line + (choose_(2) == 0 ? UsualValue(state) : Settings(state));
       }
       case 8: return "deactivate " + repository + ' ' + object + " stepName=" + step;
       case 9: return "reset " + repository + ' ' + object + " stepName=" + step;
@@ -72,6 +72,37 @@ class RandomEdits {
  private:
   std::string AnyOf(std::initializer_list<std::string> texts) {
     return *(texts.begin() + choose_(static_cast<unsigned>(texts.size())));
+  }
+
+  /// Most often an object that is there, with its repository.
+  std::pair<std::string, std::string> AnyObject(EditedModel const& model) {
+    std::vector<std::pair<std::string, std::string>> objects;
+    for (kprC_StepRepository const* repository : model.Repositories()) {
+      for (cow_String const& key : repository->Keys()) objects.push_back({repository->RepositoryName(), key.CStr()});
+    }
+    if (objects.empty() || choose_(16) == 0) {
+      auto const repositories = model.Repositories();
+      objects = {{repositories[choose_(static_cast<unsigned>(repositories.size()))]->RepositoryName(), "p"}};
+    }
+    return objects[choose_(static_cast<unsigned>(objects.size()))];
+  }
+
+  /// Half of the time one of those that most steps take.
+  cls_AttributeTable const& AnyObjectType() {
+    std::string const usual = AnyOf({"DisplacementBC", "ConcentratedForce", "TemperatureBC", "Pressure"});
+    bool const any = choose_(2) == 0;
+    std::size_t place = choose_(static_cast<unsigned>(objectTypes_.size()));
+    for (std::size_t i = 0; i < objectTypes_.size() && !any; ++i) {
+      if (objectTypes_[i]->ScriptingName() == usual.c_str()) place = i;
+    }
+    return *objectTypes_[place];
+  }
+
+  static std::string UsualValue(cls_AttributeTable const& state) {
+    for (char const* key : {"u1", "c1", "magnitude"}) {
+      if (state.Find(key) != nullptr) return std::string(" ") + key + "=2";
+    }
+    return "";
   }
 
   /// Most often the name of a step that is there.

@@ -66,6 +66,13 @@ class TVO_API mdl_IdRepositoryOfCows : public mdl_Repository {
     }
     return *found;
   }
+  /// A database may hold a last number below one that is in use.
+  unsigned int FreshId() {
+    do {
+      ++lastID_;
+    } while (idToObj_.IsMember(lastID_));
+    return lastID_;
+  }
   static cow_String Words(cow_String const& key) { return key; }
   static cow_String Words(unsigned int id) { return cow_String(std::to_string(id)); }
 };
@@ -83,7 +90,7 @@ cls_AttributeTable const& mdl_IdRepositoryOfCows<K, T>::Attributes() {
 template <class K, class T>
 bool mdl_IdRepositoryOfCows<K, T>::Put(K const& key, Holder const& holder) {
   unsigned int const* const known = nameToID_.Find(key);
-  unsigned int const id = known == nullptr ? ++lastID_ : *known;
+  unsigned int const id = known == nullptr ? FreshId() : *known;
   nameToID_.Insert(key, id);
   return idToObj_.Insert(id, holder);
 }

@@ -1,6 +1,7 @@
 #include "../RandomEdits.h"
 
 #include <random>
+#include <set>
 
 #include "../StepPlan.h"
 
@@ -11,7 +12,8 @@ auto* const environment = testing::AddGlobalTestEnvironment(new LibraryEnvironme
 // A model lives through thousands of edits, good ones and bad ones, and stays sound after each.
 TEST(RandomEditsTest, EveryInvariantHoldsAfterEveryEdit) {
   int refused = 0, objects = 0;
-  constexpr int scripts = 40, lines = 60;
+  std::set<int> statuses;
+  constexpr int scripts = 60, lines = 150;
   for (unsigned seed = 0; seed < scripts; ++seed) {
     std::mt19937 random(seed);
     RandomEdits edits([&random](unsigned bound) { return static_cast<unsigned>(random() % bound); });
@@ -19,6 +21,11 @@ TEST(RandomEditsTest, EveryInvariantHoldsAfterEveryEdit) {
     for (int i = 0; i < lines; ++i) {
       std::string const broken = model.Run(edits.Next(model.Model()));
       ASSERT_EQ(broken, "") << "seed " << seed;
+      for (kprC_StepRepository const* repository : model.Model().Repositories()) {
+        for (cow_String const& key : repository->Keys()) {
+          for (int const status : repository->ConstGetObject(key).History()) statuses.insert(status);
+        }
+      }
     }
     refused += model.Refused();
     for (kprC_StepRepository const* repository : model.Model().Repositories()) objects += repository->Size();
@@ -26,6 +33,7 @@ TEST(RandomEditsTest, EveryInvariantHoldsAfterEveryEdit) {
   // The scripts do get somewhere.
   EXPECT_LT(refused, scripts * lines * 9 / 10);
   EXPECT_GT(objects, scripts / 4);
+  EXPECT_EQ(statuses, (std::set<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
 }
 
 }  // namespace
