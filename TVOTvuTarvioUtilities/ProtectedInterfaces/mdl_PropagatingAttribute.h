@@ -110,7 +110,9 @@ class TVO_API mdl_PropAttr final : public mdl_PropAttrBase {
     return *this;
   }
 
-  bool operator==(mdl_PropAttr const& other) const { return state_ == other.state_ && value_ == other.value_; }
+  bool operator==(mdl_PropAttr const& other) const {
+    return state_ == other.state_ && cls_IsSame(value_, other.value_);
+  }
   bool operator==(T const& value) const { return value_ == value; }
   bool operator==(mdl_PropAttributeStateEnm const& state) const { return state_ == state; }
 
@@ -137,7 +139,7 @@ class TVO_API mdl_PropAttr final : public mdl_PropAttrBase {
   }
   void Modify(mdl_PropAttrBase const& other) override { Modify(static_cast<mdl_PropAttr const&>(other)); }
   bool IsPropagationOf(mdl_PropAttrBase const& before) const override {
-    return state_ == Propagated(before.State()) && value_ == static_cast<mdl_PropAttr const&>(before).value_;
+    return state_ == Propagated(before.State()) && cls_IsSame(value_, static_cast<mdl_PropAttr const&>(before).value_);
   }
 
   std::string ValueText() const override;

@@ -1,9 +1,12 @@
+#include <limits>
 #include <random>
 
 #include "../StepPlan.h"
+#include "dbc_ModelFile.h"
 #include "kbcC_DisplacementBC.h"
 #include "kbcC_SubmodelBC.h"
 #include "kbcC_TemperatureBC.h"
+#include "kprC_TimePoint.h"
 
 // A walk over what a walk has left changes nothing, whatever steps and edits have come before.
 
@@ -133,6 +136,28 @@ TYPED_TEST(SettledWalkTest, AnyStepsAndEditsAreSettledByOneWalk) {
       }
     }
   }
+}
+
+// A file may hold it. It differed from itself, so no model with it equalled its copy and no walk came to an end.
+TEST(NotANumberTest, IsAValueLikeAnother) {
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  kbcC_DisplacementBCState state;
+  state.u1 = none;
+  kbcC_DisplacementBC bc;
+  bc.Insert("A", state);
+  bc.Initialize(Steps("A B"));
+  auto const identity = bc.States().Uid();
+  bc.Sync();
+  EXPECT_EQ(bc.States().Uid(), identity);
+  state.cU2 = omi_complex(none, 1.0);
+  kprC_StaticStep step;
+  step.minInc = none;
+  kprC_TimePoint points;
+  points.points.Append({none});
+  for (cls_Persistent const* object : std::initializer_list<cls_Persistent const*>{&bc, &state, &step, &points}) {
+    EXPECT_TRUE(cls_EqualValues(*dbc_DecodeObject(dbc_EncodeObject(*object), "model"), *object));
+  }
+  EXPECT_FALSE(step.DynAttributes().Find("minInc")->SetText(step, "nan"));
 }
 
 }  // namespace

@@ -11,10 +11,25 @@
 #include "cow_COW.h"
 #include "cow_List.h"
 #include "cow_Map.h"
+#include "omi_complex.h"
 
 /// How values of type M are stored, compared, copied and typed: one specialisation for each kind of member.
 template <class M>
 struct cls_Codec;
+
+/// Whether two values are the same, as their codec says if they have one. What is no number is the same as another that
+/// is none, or a model that holds it would not equal its own copy.
+template <class V>
+bool cls_IsSame(V const& a, V const& b) {
+  if constexpr (std::floating_point<V>) {
+    return a == b || (a != a && b != b);
+  } else if constexpr (std::same_as<V, omi_complex>) {
+    return a.Representation() == b.Representation() && cls_IsSame(a.First(), b.First()) &&
+           cls_IsSame(a.Second(), b.Second());
+  } else {
+    return cls_Codec<V>::Equal(a, b);
+  }
+}
 
 /// What kinds of values have in common that hold no objects.
 template <class M, cls_AttributeType Type>
@@ -52,7 +67,7 @@ bool cls_ReadNumber(std::string_view text, Number& value) {
   }
   Number read{};
   auto const end = std::from_chars(text.data(), text.data() + text.size(), read);
-  if (end.ec != std::errc() || end.ptr != text.data() + text.size()) {
+  if (end.ec != std::errc() || end.ptr != text.data() + text.size() || read != read) {
     return false;
   }
   value = read;
@@ -97,6 +112,7 @@ struct cls_Codec<unsigned int> : cls_WordCodec<unsigned int, cls_AttributeType::
 
 template <>
 struct cls_Codec<double> : cls_PlainCodec<double, cls_AttributeType::Double> {
+  static bool Equal(double a, double b) { return cls_IsSame(a, b); }
   static void Write(cls_WriteVisitor const& writer, int column, double value) { writer.SetDouble(column, value); }
   static void Read(cls_ReadVisitor const& reader, int column, double& value) {
     if (cls_Column const* cells = reader.Cells(column)) {

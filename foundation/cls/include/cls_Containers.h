@@ -425,6 +425,13 @@ struct cls_Codec<cls_ValueList<V, Tag>> : cls_CollectionCodec<cls_ValueList<V, T
     Base::RestoreUid(list, stored);
     return list;
   }
+  static bool Equal(List const& a, List const& b) {
+    if (a.Identical(b) || a.Length() != b.Length()) {
+      return a.Length() == b.Length();
+    }
+    auto other = b.begin();
+    return std::ranges::all_of(a, [&](V const& element) { return cls_IsSame(element, *other++); });
+  }
   static void NewUid(List& list) {
     list.NewUid();
     if constexpr (ofLists) {

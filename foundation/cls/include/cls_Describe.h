@@ -77,7 +77,7 @@ class cls_ComplexPart final : public cls_Attribute {
     cls_Codec<double>::Read(reader, column, value);
     Set(object, value);
   }
-  bool Equal(cls_Persistent const& a, cls_Persistent const& b) const override { return Value(a) == Value(b); }
+  bool Equal(cls_Persistent const& a, cls_Persistent const& b) const override { return cls_IsSame(Value(a), Value(b)); }
   void Assign(cls_Persistent& to, cls_Persistent const& from) const override {
     static_cast<C&>(to).*member_ = Of(from);
   }
