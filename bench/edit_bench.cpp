@@ -16,7 +16,7 @@ void BM_Edit(benchmark::State& state) {
     condition.Insert("Step-1", edit);
   }
 }
-BENCHMARK(BM_Edit)->Name("goal/edit_100_steps/ours")->Arg(100);
+BENCHMARK(BM_Edit)->Name("goal/edit_100_steps/ours")->Arg(100)->Repetitions(9);
 BENCHMARK(BM_Edit)->Name("goal/edit_steps/ours")->RangeMultiplier(4)->Range(8, 2048);
 
 void BM_CopyStates(benchmark::State& state) {
@@ -34,7 +34,7 @@ void BM_CopyStates(benchmark::State& state) {
     benchmark::DoNotOptimize(copies);
   }
 }
-BENCHMARK(BM_CopyStates)->Name("goal/edit_100_steps/baseline")->Arg(100);
+BENCHMARK(BM_CopyStates)->Name("goal/edit_100_steps/baseline")->Arg(100)->Repetitions(9);
 
 // ---- a step inserted under many objects, beside a deep copy of the repository
 

@@ -31,7 +31,8 @@ void kprC_Propagator<Family>::PropagateGenAnalysisObject() {
       EnterStep(quad);
     }
     mdl_PropagationStatusEnm const entered = running_.status;
-    bool const valid = !quad.HasStep() || running_.status == STATUS_NONE || KindOf(quad).valid;
+    bool const takesType = !quad.HasStep() || KindOf(quad).valid;
+    bool const valid = takesType || running_.status == STATUS_NONE;
     bool const passedOn = HoldsPassedDeactivation(quad);
     bool refused = false;
     if (valid && (deactivationPending || passedOn)) {
@@ -43,7 +44,7 @@ void kprC_Propagator<Family>::PropagateGenAnalysisObject() {
       Modify(quad);
     }
     mdl_PropagationStatusEnm status = RecordedStatus(running_.status);
-    if (quad.HasStep() && running_.status != STATUS_NONE && !KindOf(quad).valid) {
+    if (!takesType && running_.status != STATUS_NONE) {
       status = GetInvalidStatus(quad.Procedure());
       if (running_.status == STATUS_DEACTIVATED && running_.state.HasValue()) {
         refused = true;
@@ -131,8 +132,17 @@ void kprC_Propagator<Family>::Record(int index, mdl_PropagationStatusEnm status)
 
 template <class Family>
 void kprC_Propagator<Family>::ApplyTo(Quads& quads) {
+  if (changes_.empty()) {
+    return;
+  }
+  int const first = changes_.front().index;
+  int const last = changes_.back().index;
+  bool const contiguous = last - first + 1 == static_cast<int>(changes_.size());
+  if (contiguous) {
+    quads.IsolateRange(first, last);
+  }
   for (Change& change : changes_) {
-    Quad& quad = quads.Get(change.index);
+    Quad& quad = contiguous ? quads.UncheckedGet(change.index) : quads.Get(change.index);
     quad.status = change.status;
     quad.state = std::move(change.state);
   }
