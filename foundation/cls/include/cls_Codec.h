@@ -159,7 +159,11 @@ struct cls_Codec<T> {
   static constexpr bool hasIdentity = true;
 
   static void Write(cls_WriteVisitor const& writer, int column, T const& value) {
-    writer.SetObject(column, value, false);
+    if constexpr (std::same_as<decltype(&T::DBWrite), decltype(&cls_Persistent::DBWrite)>) {
+      writer.SetPart(column, value, T::Attributes());
+    } else {
+      writer.SetObject(column, value, false);  // the class has a way of its own
+    }
   }
   static void Read(cls_ReadVisitor const& reader, int column, T& value) {
     cls_ReadVisitor const inner = reader.Enter(column, T::TypeId());

@@ -40,28 +40,8 @@ class TVO_API cls_Column {
     return kind == cls_CellKind::Row || kind == cls_CellKind::RowOfClass || kind == cls_CellKind::Collection ? cls_NoRow
                                                                                                             : 0u;
   }
-  void Set(std::uint32_t row, std::uint32_t word) {
-    if (words.size() == row) {
-      words.push_back(word);
-      return;
-    }
-    if (words.size() < row) {
-      words.resize(row, DefaultWord());
-      words.push_back(word);
-      return;
-    }
-    words[row] = word;
-  }
-  void Set(std::uint32_t row, double value) {
-    if (doubles.size() == row) {
-      doubles.push_back(value);
-      return;
-    }
-    if (doubles.size() < row) {
-      doubles.resize(row + 1u);
-    }
-    doubles[row] = value;
-  }
+  void Set(std::uint32_t row, std::uint32_t word) { SetIn(words, row, word, DefaultWord()); }
+  void Set(std::uint32_t row, double value) { SetIn(doubles, row, value, 0.0); }
   void Fill(std::uint32_t rows) {
     if (kind == cls_CellKind::Double) {
       doubles.resize(rows);
@@ -75,6 +55,23 @@ class TVO_API cls_Column {
   unsigned int target;  ///< class that the referred rows derive from (Row, ClassId)
   std::vector<std::uint32_t> words;
   std::vector<double> doubles;
+
+ private:
+  /// A cell that is not reached yet and would get its default is left to Fill, which takes the memory of all such at once.
+  template <class Cell>
+  static void SetIn(std::vector<Cell>& cells, std::uint32_t row, Cell value, Cell unset) {
+    if (row < cells.size()) {
+      cells[row] = value;
+    } else if (!IsSameCell(value, unset)) {
+      if (row > cells.size()) {
+        cells.resize(row, unset);
+      }
+      cells.push_back(value);
+    }
+  }
+  static bool IsSameCell(std::uint32_t a, std::uint32_t b) { return a == b; }
+  /// By its bits: a negative zero is not the default.
+  static bool IsSameCell(double a, double b) { return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b); }
 };
 
 /// The rows of one class: one row for each object and level of its hierarchy. A level's row names the row of its base.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <unordered_map>
@@ -14,6 +15,16 @@ class cls_Persistent;
 
 /// One number for each enumeration that a session caches; taken once per instantiation.
 TVO_API int cls_NextCacheIndex();
+
+/// The element of that index in a vector that grows as far as it is asked for.
+template <class T>
+T& cls_At(std::vector<T>& vector, int index) {
+  auto const place = static_cast<std::size_t>(index);
+  if (place >= vector.size()) {
+    vector.resize(place + 1);
+  }
+  return vector[place];
+}
 
 /// Counts a session's depth of objects in objects while it lives.
 class cls_Deeper {
@@ -44,7 +55,7 @@ class TVO_API cls_WriteSession {
   /// Number of a text. Shared texts are known by their characters' place, which the model keeps while it is written.
   std::uint32_t StringNumber(cow_String const& text);
   /// Numbers of the names of an enumeration's rows, by row; filled by the enumeration's codec.
-  std::vector<std::uint32_t>& EnumCache(int index);
+  std::vector<std::uint32_t>& EnumCache(int index) { return cls_At(enumCaches_, index); }
 
   /// Row of an object written before, or cls_NoRow. The same identity at another place in memory is another object that
   /// still has its origin's identity: it is written too, or its values would be lost.
@@ -104,6 +115,8 @@ class TVO_API cls_WriteVisitor {
   cls_WriteSession& Session() const noexcept { return *session_; }
   void SetWord(int column, std::uint32_t word) const { Column(column).Set(row_, word); }
   void SetDouble(int column, double value) const { Column(column).Set(row_, value); }
+  /// Embeds an object that has no other place, by the table of its class.
+  void SetPart(int column, cls_Persistent const& object, cls_AttributeTable const& attributes) const;
   /// Embeds an object. `shareable` says that it can be met again by another way.
   void SetObject(int column, cls_Persistent const& object, bool shareable) const;
   /// Row of an object written on its own, as an element of a collection.
@@ -111,6 +124,10 @@ class TVO_API cls_WriteVisitor {
 
  private:
   friend class cls_AttributeTable;
+  /// Stands on a row that it has already.
+  cls_WriteVisitor(cls_WriteSession& session, cls_Table& table, std::uint32_t row)
+      : session_(&session), table_(&table), row_(row) {}
+  void WriteLevels(cls_Persistent const& object, cls_AttributeTable const& attributes) const;
   /// What the written object is to its surroundings, and so what refers to its row.
   enum class Role : std::uint8_t { root, base, embedded, element };
 
@@ -139,8 +156,22 @@ class TVO_API cls_ReadSession {
 
   cls_Database const& Database() const noexcept { return database_; }
   /// Stored column of each column of the class, -1 for one that the stored version lacks.
-  std::vector<int> const& Columns(cls_AttributeTable const& attributes, cls_Table const& table);
-  std::vector<int>& EnumCache(int index);
+  std::vector<int> const& Columns(cls_AttributeTable const& attributes, cls_Table const& table) {
+    TableState& state = StateOf(table);
+    if (!state.resolved) {
+      Resolve(attributes, table, state);
+    }
+    return state.columns;
+  }
+  std::vector<int>& EnumCache(int index) { return cls_At(enumCaches_, index); }
+  /// The table of a class that rows refer to; the references have been checked.
+  cls_Table const* TableOf(unsigned int classId) {
+    KnownTable& known = knownTables_[classId % knownTables_.size()];
+    if (known.classId != classId) {
+      known = {classId, database_.FindTable(classId)};
+    }
+    return known.table;
+  }
 
   struct Shared {
     bool reading = false;
@@ -149,7 +180,10 @@ class TVO_API cls_ReadSession {
     std::vector<std::pair<void const*, std::shared_ptr<void>>> holders;
   };
   /// The record of a row that more than one place refers to, null for all others.
-  Shared* FindShared(cls_Table const& table, std::uint32_t row);
+  Shared* FindShared(cls_Table const& table, std::uint32_t row) {
+    TableState& state = StateOf(table);
+    return state.references[row] < 2 ? nullptr : SharedOf(state, row);
+  }
 
   /// Depth of objects in objects, bounded so that a damaged file cannot exhaust the stack.
   int depth = 0;
@@ -179,6 +213,8 @@ class TVO_API cls_ReadSession {
     std::unordered_map<std::uint32_t, Shared> shared;
   };
   TableState& StateOf(cls_Table const& table) { return states_[table.index]; }
+  static Shared* SharedOf(TableState& state, std::uint32_t row);
+  static void Resolve(cls_AttributeTable const& attributes, cls_Table const& table, TableState& state);
 
   cls_Database const& database_;
   std::vector<TableState> states_;  ///< by the table's place
@@ -189,6 +225,12 @@ class TVO_API cls_ReadSession {
     std::uint8_t* references = nullptr;
   };
   Target target_;
+  /// Tables met of late, by class: objects of a few classes take turns.
+  struct KnownTable {
+    unsigned int classId = 0;
+    cls_Table const* table = nullptr;
+  };
+  std::array<KnownTable, 64> knownTables_;
   std::vector<std::vector<int>> enumCaches_;
 };
 

@@ -127,11 +127,10 @@ void cls_AttributeTable::Unshare(cls_Persistent& object, cls_DeepCopyContext& co
 
 void cls_AttributeTable::WriteLevel(cls_Persistent const& object, cls_WriteVisitor const& writer) const {
   if (base_ != nullptr) {
-    cls_WriteVisitor basePart(writer, base_->TypeId());
-    basePart.table_ = &writer.Session().TableOf(*base_);
-    basePart.row_ = basePart.table_->NewRow(0);
-    writer.SetWord(0, basePart.row_);
-    base_->WriteLevel(object, basePart);
+    cls_Table& table = writer.Session().TableOf(*base_);
+    std::uint32_t const row = table.NewRow(0);
+    writer.SetWord(0, row);
+    base_->WriteLevel(object, cls_WriteVisitor(writer.Session(), table, row));
   }
   for (auto const& attribute : own_) {
     attribute->Write(object, writer);

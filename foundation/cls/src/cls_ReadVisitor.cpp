@@ -145,33 +145,18 @@ void cls_ReadSession::CheckCollection(cls_Collection const& collection, std::uin
   }
 }
 
-std::vector<int> const& cls_ReadSession::Columns(cls_AttributeTable const& attributes, cls_Table const& table) {
-  TableState& state = StateOf(table);
-  if (!state.resolved) {
-    state.resolved = true;
-    cls_Database scratch;
-    cls_Table const& present = attributes.AddTo(scratch);
-    for (cls_Column const& column : present.columns) {
-      int const stored = table.FindColumn(column.name.View());
-      bool const fits = stored >= 0 && table.columns[static_cast<std::size_t>(stored)].kind == column.kind;
-      state.columns.push_back(fits ? stored : -1);
-    }
+void cls_ReadSession::Resolve(cls_AttributeTable const& attributes, cls_Table const& table, TableState& state) {
+  state.resolved = true;
+  cls_Database scratch;
+  cls_Table const& present = attributes.AddTo(scratch);
+  for (cls_Column const& column : present.columns) {
+    int const stored = table.FindColumn(column.name.View());
+    bool const fits = stored >= 0 && table.columns[static_cast<std::size_t>(stored)].kind == column.kind;
+    state.columns.push_back(fits ? stored : -1);
   }
-  return state.columns;
 }
 
-std::vector<int>& cls_ReadSession::EnumCache(int index) {
-  auto const place = static_cast<std::size_t>(index);
-  if (place >= enumCaches_.size()) {
-    enumCaches_.resize(place + 1);
-  }
-  return enumCaches_[place];
-}
-
-cls_ReadSession::Shared* cls_ReadSession::FindShared(cls_Table const& table, std::uint32_t row) {
-  TableState& state = StateOf(table);
-  return state.references[row] < 2 ? nullptr : &state.shared[row];
-}
+cls_ReadSession::Shared* cls_ReadSession::SharedOf(TableState& state, std::uint32_t row) { return &state.shared[row]; }
 
 cls_ReadVisitor::cls_ReadVisitor(cls_ReadSession& session) : session_(&session) {
   cls_Database const& database = session.Database();
@@ -234,7 +219,7 @@ cls_ReadVisitor cls_ReadVisitor::BasePart() const {
   if (row == cls_NoRow) {
     Refuse("the row of the base class is missing");
   }
-  return {*session_, session_->Database().FindTable(cells->target), row};
+  return {*session_, session_->TableOf(cells->target), row};
 }
 
 cls_ReadVisitor cls_ReadVisitor::Enter(int column, unsigned int typeId) const {
@@ -250,7 +235,7 @@ cls_ReadVisitor cls_ReadVisitor::EnterRow(unsigned int classId, std::uint32_t ro
   if (classId != typeId && !cls_ClassRegistrar::InheritanceCheck(classId, typeId)) {
     Refuse("refers to an object of another kind");
   }
-  return {*session_, session_->Database().FindTable(classId), row};
+  return {*session_, session_->TableOf(classId), row};
 }
 
 cls_Collection const* cls_ReadVisitor::Collection(int column, cls_CollectionType kind) const {

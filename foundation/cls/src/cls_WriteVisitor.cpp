@@ -17,11 +17,7 @@ cls_WriteSession::cls_WriteSession(cls_Database& database) : database_(database)
 cls_WriteSession::~cls_WriteSession() = default;
 
 cls_Table& cls_WriteSession::TableOf(cls_AttributeTable const& attributes) {
-  auto const index = static_cast<std::size_t>(attributes.Index());
-  if (index >= tableByIndex_.size()) {
-    tableByIndex_.resize(index + 1, nullptr);
-  }
-  cls_Table*& table = tableByIndex_[index];
+  cls_Table*& table = cls_At(tableByIndex_, attributes.Index());
   if (table == nullptr) {
     table = database_.FindTable(attributes.TypeId());
     if (table == nullptr) {
@@ -49,14 +45,6 @@ std::uint32_t cls_WriteSession::StringNumber(cow_String const& text) {
     cached = {place, database_.StringNumber(text.View())};
   }
   return cached.number;
-}
-
-std::vector<std::uint32_t>& cls_WriteSession::EnumCache(int index) {
-  auto const place = static_cast<std::size_t>(index);
-  if (place >= enumCaches_.size()) {
-    enumCaches_.resize(place + 1);
-  }
-  return enumCaches_[place];
 }
 
 // Identities that were given out one after the other stand side by side, eight in a row; the rows are scattered.
@@ -193,11 +181,23 @@ void cls_WriteVisitor::WriteObject(cls_Persistent const& object) const {
     session_->NoteWritten(uid, &object, row_);
   }
   Link(attributes.TypeId(), row_);
+  WriteLevels(object, attributes);
+}
+
+void cls_WriteVisitor::WriteLevels(cls_Persistent const& object, cls_AttributeTable const& attributes) const {
   if (session_->depth >= cls_ReadSession::maxDepth) {
     cls_RefuseStored(attributes.Name().View(), row_, "objects are nested too deeply");
   }
   cls_Deeper const deeper(session_->depth);
   attributes.WriteLevel(object, *this);
+}
+
+void cls_WriteVisitor::SetPart(int column, cls_Persistent const& object, cls_AttributeTable const& attributes) const {
+  cls_Table& table = session_->TableOf(attributes);
+  std::uint32_t const row = table.NewRow(object.Uid().Value());
+  SetWord(column, attributes.TypeId());
+  SetWord(column + 1, row);
+  cls_WriteVisitor(*session_, table, row).WriteLevels(object, attributes);
 }
 
 void cls_WriteVisitor::SetObject(int column, cls_Persistent const& object, bool shareable) const {

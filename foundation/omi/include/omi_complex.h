@@ -23,8 +23,8 @@ class TVO_API omi_complex {
   constexpr double Second() const noexcept { return second_; }
 
   /// The parts, converted if need be. A phase of whole quarter turns in degrees gives exact parts.
-  double ConvertedReal() const noexcept;
-  double ConvertedImag() const noexcept;
+  double ConvertedReal() const noexcept { return code_ == RECTANGULAR ? first_ : RealOfPolar(); }
+  double ConvertedImag() const noexcept { return code_ == RECTANGULAR ? second_ : ImagOfPolar(); }
 
   /// Whether both doubles are zero, in any representation.
   constexpr bool IsZero() const noexcept { return first_ == 0.0 && second_ == 0.0; }
@@ -35,6 +35,9 @@ class TVO_API omi_complex {
   friend constexpr bool operator==(omi_complex const&, omi_complex const&) noexcept = default;
 
  private:
+  double RealOfPolar() const noexcept;
+  double ImagOfPolar() const noexcept;
+
   Code code_ = RECTANGULAR;
   double first_ = 0.0;
   double second_ = 0.0;

@@ -20,17 +20,14 @@ std::complex<double> FromDegrees(double magnitude, double phase) noexcept {
   }
 }
 
-std::complex<double> Converted(omi_complex const& value) noexcept {
-  switch (value.Representation()) {
-    case omi_complex::POLAR_DEGREES: return FromDegrees(value.First(), value.Second());
-    case omi_complex::POLAR_RADIANS:
-      return {value.First() * std::cos(value.Second()), value.First() * std::sin(value.Second())};
-    case omi_complex::RECTANGULAR: break;
+std::complex<double> FromPolar(omi_complex const& value) noexcept {
+  if (value.Representation() == omi_complex::POLAR_DEGREES) {
+    return FromDegrees(value.First(), value.Second());
   }
-  return {value.First(), value.Second()};
+  return {value.First() * std::cos(value.Second()), value.First() * std::sin(value.Second())};
 }
 
 }  // namespace
 
-double omi_complex::ConvertedReal() const noexcept { return Converted(*this).real(); }
-double omi_complex::ConvertedImag() const noexcept { return Converted(*this).imag(); }
+double omi_complex::RealOfPolar() const noexcept { return FromPolar(*this).real(); }
+double omi_complex::ImagOfPolar() const noexcept { return FromPolar(*this).imag(); }

@@ -131,6 +131,7 @@ cls_Database RandomTables(std::mt19937_64& random, std::uint32_t rows) {
     table.columns[1].Set(row, 0u);
     table.columns[2].Set(row, character % 2 == 0 ? word : word++);
   }
+  database.Complete();
   return database;
 }
 
