@@ -45,7 +45,7 @@ class RandomEdits {
       case 6:
       case 7: {
         auto const& known = *model.FindRepository(repository);
-        std::string const line = "setInStep " + repository + ' ' + object + " stepName=" + step;
+        std::string line = "setInStep " + repository + ' ' + object + " stepName=" + step;
         if (!known.IsMember(object)) return line;
         auto const& state = *known.ConstGetObject(object).DynAttributes().StepState();
         return line + (choose_(2) == 0 ? UsualValue(state) : Settings(state));

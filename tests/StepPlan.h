@@ -7,6 +7,7 @@
 #include <sstream>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "TVOOdbAttrEO.h"
@@ -219,7 +220,7 @@ void ExpectRefusedEdits(std::initializer_list<RefusedEdit<Object>> rows) {
 inline constexpr auto nothing = [](auto&) {};
 /// No edit, but a look at values.
 inline auto Has(std::vector<std::pair<char const*, double>> values) {
-  return [values](auto& object) {
+  return [values = std::move(values)](auto& object) {
     for (auto const& [step, value] : values) EXPECT_EQ(ValueIn(object, step), value) << step;
   };
 }

@@ -360,7 +360,7 @@ TEST(EditModelTest, OpensEveryProcedureAsItWasSaved) {
        "TempDisplacementDynamicsStep timeIncrementationMethod=FIXED_EBE"},
       {"StaticStep" + inc, "StaticLinearPerturbationStep solutionTechnique=LCP_CONTACT gapDistance=0.1",
        "BuckleStep numEigen=3 vectors=9",
-       "SubstructureGenerateStep substructureIdentifier=7 globalDamping=MECHANICAL modeRange=start=1,end=9"
+       std::string("SubstructureGenerateStep substructureIdentifier=7 globalDamping=MECHANICAL modeRange=start=1,end=9") +
        " retainedDofsList=\"region=Top face,dofs=1,2,3;region=Tip,dofs=1\"",
        "ReducedBasisGenerateStep", "FrequencyStep numEigen=5", "ComplexFrequencyStep frictionDamping=true",
        "ModalDynamicsStep incSize=0.1", "RandomResponseStep freq=lower=1,upper=50 selectedEigenmodes=1,3",

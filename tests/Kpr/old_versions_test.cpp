@@ -79,7 +79,7 @@ class OldVersionsTest : public testing::Test {
     OldTable const repository = Table("mdl_IdRepositoryOfCows<cow_String, kprC_Step>");
     cls_Collection const& map = CollectionOf(repository, "IDToObj#OID", 0);
     auto const first = database_.words.begin() + map.first;
-    return {first, first + 3 * map.count};
+    return {first, first + std::ptrdiff_t{3} * map.count};
   }
 
   cls_Database database_;

@@ -180,9 +180,9 @@ TEST(StepsTest, ModalDynamicsAndItsDampingsFindFaults) {
                        {19, [](Modes& m) { m.start = 2; }},
                        {20, [](Modes& m) { m.end = 1; }},
                        {22, [](Modes& m) { m.end = 2; }}});
-  step.rayleighDamping = new kprC_RayleighDamping();
-  step.rayleighDamping.Get().components.Append(modes);
-  EXPECT_EQ(Refusal([&] { step.rayleighDamping.ConstGet().AssertValid(); }), Words(22));
+  kprC_RayleighDamping damping;
+  damping.components.Append(modes);
+  EXPECT_EQ(Refusal([&] { damping.AssertValid(); }), Words(22));
 }
 
 TEST(StepsTest, AnswersComeFromTheClassOrItsField) {

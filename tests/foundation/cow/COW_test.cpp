@@ -61,7 +61,8 @@ TEST(CountedHldTest, LastSharerDeletesTheObject)
     EXPECT_EQ(c.GetRef().Value(), 1);
     EXPECT_TRUE(c.Exclusive());
     c = std::move(b);
-    EXPECT_TRUE(b.IsNull());  // NOLINT(bugprone-use-after-move): a moved-from holder holds nothing.
+    // A moved-from holder holds nothing.
+    EXPECT_TRUE(b.IsNull());  // NOLINT(bugprone-use-after-move, clang-analyzer-cplusplus.Move)
     b = new Tracked(3);
     c = c.GetPtr();
     EXPECT_EQ(c.ConstGet().Value() + b.ConstGet().Value(), 5);

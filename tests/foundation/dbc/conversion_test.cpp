@@ -65,7 +65,12 @@ class smp_Box_150 final : public dbc_OldClassVersion {
   }
   static void* Finish(dbc_Table const& oldTable, dbc_Table& newTable) {
     journal += "table of " + std::to_string(oldTable.Rows());
-    dbc_DatabaseConverter& converter = dbc_DatabaseConverterHolder::Instance().GetDatabaseConverter();
+    auto const& holder = dbc_DatabaseConverterHolder::Instance();
+    if (!holder.HasDatabaseConverter()) {
+      ADD_FAILURE() << "no conversion runs";
+      return nullptr;
+    }
+    dbc_DatabaseConverter& converter = holder.GetDatabaseConverter();
     dbc_Table const stored = converter.Input().GetInputTable(smp_Box::TypeId());
     EXPECT_TRUE(stored.IsNull() || stored.Version() == 100 || stored.Version() == 150);
     EXPECT_TRUE(newTable.HasField(rfm_FieldHandle("number")));

@@ -84,6 +84,7 @@ TEST(AllocationTest, ThreadThatOnlyFreesDoesNotKeepTheMemory)
     for (void* const block : blocks) mem_OperatorDelete(block, 1024);
   }).join();
   std::vector<Taken> again;
+  again.reserve(count);
   for (int i = 0; i < count; ++i) again.push_back(Take(1024, static_cast<unsigned char>(i)));
   for (auto const& taken : again) Give(taken);
 }

@@ -29,8 +29,8 @@ struct History {
 }  // namespace
 
 TEST(GlobalSingletonTest, ThreadsBuildOneInstance) {
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) threads.emplace_back([] { Global::Instance(); });
+  std::vector<std::thread> threads(4);
+  for (std::thread& thread : threads) thread = std::thread([] { Global::Instance(); });
   for (std::thread& thread : threads) thread.join();
   EXPECT_EQ(globalsBuilt, 1);
   Global::Finalize();
