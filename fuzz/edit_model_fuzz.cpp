@@ -5,6 +5,7 @@
 
 #include "RandomEdits.h"
 #include "TVOOdbAttrEO.h"
+#include "omu_Histories.h"
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   static int depth = 0;
@@ -30,5 +31,8 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
       std::abort();
     }
   }
+  // Nobody undoes these edits.
+  omu_ChangeHistory::Instance().Clear();
+  omu_CmdHistory::Instance().Clear();
   return 0;
 }

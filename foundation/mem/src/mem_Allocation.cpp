@@ -23,7 +23,7 @@ bool FailsNow() noexcept;
 using Block = mem_Pool::Block;
 
 constexpr std::size_t listCount = mem_largestSmallBlock / 8;
-constexpr std::size_t chunkSize = 64 * 1024;
+constexpr std::size_t chunkSize = std::size_t{64} * 1024;
 
 /// Memory not yet divided into blocks, of ended threads; it describes itself at its start.
 struct Range
@@ -78,7 +78,7 @@ constexpr std::size_t SizeOf(std::size_t index) noexcept { return (index + 1) * 
 
 /// How many free blocks a thread keeps for itself: eight megabytes of each size. Without a bound, a thread that only
 /// frees what others take would hoard all their memory; with a narrow one, a large model goes to and fro at its end.
-constexpr int Room(std::size_t index) noexcept { return static_cast<int>(8 * 1024 * 1024 / SizeOf(index)); }
+constexpr int Room(std::size_t index) noexcept { return static_cast<int>(std::size_t{8} * 1024 * 1024 / SizeOf(index)); }
 
 /// Blocks divided or taken over at once: enough to make the visit worth it, not so many that rare sizes hoard memory.
 constexpr std::size_t Batch(std::size_t index) noexcept
