@@ -17,13 +17,24 @@ double InUse() {
   return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
+/// Keeps what was made to the end: the pool would give its blocks to what is measured next.
+template <class T>
+T const& Keep(std::unique_ptr<T> made) {
+  static std::vector<std::unique_ptr<T>> kept;
+  return *kept.emplace_back(std::move(made));
+}
+
+BoundaryConditions const& KeptModel(benchmark::State const& state) {
+  return Keep(std::make_unique<BoundaryConditions>(ModelOf(static_cast<int>(state.range(0)), StepsOf(steps))));
+}
+
 /// Bytes that what `make` gives takes, by the count of its parts.
 template <class Make, class Count>
 void Measure(benchmark::State& state, Make make, Count count) {
   for (auto _ : state) {
     double const before = InUse();
-    auto const made = make(static_cast<int>(state.range(0)));
-    state.counters["bytes"] = (InUse() - before) / count(*made);
+    auto const& made = Keep(make(static_cast<int>(state.range(0))));
+    state.counters["bytes"] = (InUse() - before) / count(made);
   }
 }
 
@@ -64,26 +75,23 @@ double Rows(cls_Database const& database) {
 }
 
 void BM_Rows(benchmark::State& state) {
-  auto const rows = [](int objects) {
-    BoundaryConditions const model = ModelOf(objects, StepsOf(steps));
-    double const ofModel = InUse();
-    auto database = std::make_unique<cls_Database>();
+  BoundaryConditions const& model = KeptModel(state);
+  for (auto _ : state) {
+    double const before = InUse();
+    auto made = std::make_unique<cls_Database>();
     {
-      cls_WriteSession session(*database);
+      cls_WriteSession session(*made);
       model.DBWrite(cls_WriteVisitor(session));
     }
-    database->Complete();
-    return std::pair(std::move(database), InUse() - ofModel);
-  };
-  for (auto _ : state) {
-    auto const [database, bytes] = rows(static_cast<int>(state.range(0)));
-    state.counters["bytes"] = bytes / Rows(*database);
+    made->Complete();
+    cls_Database const& database = Keep(std::move(made));
+    state.counters["bytes"] = (InUse() - before) / Rows(database);
   }
 }
 
 /// The cells alone.
 void BM_Cells(benchmark::State& state) {
-  BoundaryConditions const model = ModelOf(static_cast<int>(state.range(0)), StepsOf(steps));
+  BoundaryConditions const& model = KeptModel(state);
   cls_Database database;
   cls_WriteSession session(database);
   model.DBWrite(cls_WriteVisitor(session));

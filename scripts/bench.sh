@@ -19,7 +19,8 @@ cd "$results"
 for program in "$builds"/release/bench/*_bench; do
   name=$(basename "$program")
   say "$name"
-  "$program" --benchmark_enable_random_interleaving=true --benchmark_out="$name.json" --benchmark_out_format=json "$@"
+  "$program" --benchmark_enable_random_interleaving=true --benchmark_repetitions=3 --benchmark_min_time=0.2 \
+    --benchmark_out="$name.json" --benchmark_out_format=json "$@"
 done
 
 say "Goals"

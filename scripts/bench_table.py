@@ -3,7 +3,8 @@
 
 A measurement belongs to a goal by its name: goal/ROW/ours or goal/ROW/baseline, with /N behind it where the size N
 matters. A row is compared at its largest size; its growth is the exponent of the time over all sizes. Rows of sizes
-carry them in a counter "bytes"; a row without a bound is printed and not judged. Repetitions count by their median.
+carry them in a counter "bytes"; a row without a bound is printed and not judged. Of repetitions the least counts: what
+else runs on the machine only adds.
 """
 
 import json
@@ -48,7 +49,7 @@ NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
 def read(paths):
-    """{row: {side: {size: (median nanoseconds, bytes or None)}}}"""
+    """{row: {side: {size: (least nanoseconds, bytes or None)}}}"""
     samples = defaultdict(list)
     for path in paths:
         with open(path, encoding="utf-8") as file:
@@ -65,7 +66,7 @@ def read(paths):
 
     rows = defaultdict(lambda: defaultdict(dict))
     for (row, side, size), values in samples.items():
-        rows[row][side][size] = (statistics.median(time for time, _ in values), values[0][1])
+        rows[row][side][size] = (min(time for time, _ in values), values[0][1])
     return rows
 
 

@@ -49,6 +49,32 @@ class cow_ListBlock
   static std::size_t Size(int capacity) noexcept { return header + static_cast<std::size_t>(capacity) * sizeof(T); }
 };
 
+/// The array of a cow_List's blocks: its own counter, and behind it `count` slots. Lists that are copies share it.
+template <class T>
+class cow_ListArray
+{
+ public:
+  /// An array of null slots.
+  static cow_ListArray* New(int count)
+  {
+    std::size_t const size = sizeof(cow_ListArray) + static_cast<std::size_t>(count) * sizeof(cow_ListBlock<T>*);
+    void* const memory = mem_Malloc(size);
+    if (!memory) throw std::bad_alloc();
+    std::memset(memory, 0, size);
+    return ::new (memory) cow_ListArray(count);
+  }
+
+  static void Free(cow_ListArray* array) noexcept { mem_Free(array); }
+
+  cow_ListBlock<T>** Slots() noexcept { return reinterpret_cast<cow_ListBlock<T>**>(this + 1); }
+
+  int counter = 1;
+  int const count;
+
+ private:
+  explicit cow_ListArray(int slots) noexcept : count(slots) {}
+};
+
 /// Reads the elements of a cow_List in order. Good until the list is changed or gone, as its elements are.
 template <class T>
 class cow_ListConstIterator
@@ -136,6 +162,7 @@ template <class T>
 class cow_List
 {
   using Block = cow_ListBlock<T>;
+  using Array = cow_ListArray<T>;
 
  public:
   using value_type = T;
@@ -160,10 +187,10 @@ class cow_List
   }
 
   cow_List(cow_List const& other) noexcept
-      : length_(other.length_), slotCount_(other.slotCount_), shift_(other.shift_), head_(other.head_),
-        counter_(other.counter_), slots_(other.slots_)
+      : length_(other.length_), shift_(other.shift_), head_(other.head_), array_(other.array_)
   {
-    if (counter_) ++*counter_;
+    if (array_) ++array_->counter;
+    other.CloseRoom();
   }
 
   cow_List(cow_List&& other) noexcept { Swap(other); }
@@ -185,11 +212,11 @@ class cow_List
   void Swap(cow_List& other) noexcept
   {
     std::swap(length_, other.length_);
-    std::swap(slotCount_, other.slotCount_);
     std::swap(shift_, other.shift_);
     std::swap(head_, other.head_);
-    std::swap(counter_, other.counter_);
-    std::swap(slots_, other.slots_);
+    std::swap(array_, other.array_);
+    std::swap(next_, other.next_);
+    std::swap(limit_, other.limit_);
   }
 
   /// Empties the list and lays it out for `expected` elements: larger blocks and all their slots at once.
@@ -224,23 +251,24 @@ class cow_List
   {
     if (length_ == 0) return {};
     int const end = head_ + length_;
-    return {slots_ + (head_ >> shift_), slots_ + ((end - 1) >> shift_), shift_, head_ & Mask(), ((end - 1) & Mask()) + 1};
+    Block* const* const slots = array_->Slots();
+    return {slots + (head_ >> shift_), slots + ((end - 1) >> shift_), shift_, head_ & Mask(), ((end - 1) & Mask()) + 1};
   }
   std::default_sentinel_t end() const noexcept { return {}; }
 
   /// True if both lists share their storage, and so are equal without a look at the elements.
   bool Identical(cow_List const& other) const noexcept
   {
-    return slots_ == other.slots_ && head_ == other.head_ && length_ == other.length_;
+    return array_ == other.array_ && head_ == other.head_ && length_ == other.length_;
   }
 
   /// True if another list shares any of the elements.
   bool IsShared() const noexcept
   {
     if (length_ == 0) return false;
-    bool shared = *counter_ > 1;
+    bool shared = array_->counter > 1;
     for (int slot = head_ >> shift_; !shared && slot <= (head_ + length_ - 1) >> shift_; ++slot) {
-      shared = slots_[slot]->counter > 1;
+      shared = Slot(slot)->counter > 1;
     }
     return shared;
   }
@@ -263,7 +291,7 @@ class cow_List
   /// Makes the array of blocks private to this list. The blocks stay shared.
   void CopyArray()
   {
-    if (counter_ && *counter_ > 1) ReplaceSlots(slotCount_, 0);
+    if (array_ && array_->counter > 1) ReplaceSlots(array_->count, 0);
   }
 
   /// Makes the blocks that hold elements `first` to `last` private to this list, and the array too.
@@ -512,34 +540,59 @@ class cow_List
 
   int Capacity() const noexcept { return 1 << shift_; }
   int Mask() const noexcept { return Capacity() - 1; }
-  T* Place(int position) const noexcept { return slots_[position >> shift_]->Elements() + (position & Mask()); }
+  Block*& Slot(int slot) const noexcept { return array_->Slots()[slot]; }
+  T* Place(int position) const noexcept { return Slot(position >> shift_)->Elements() + (position & Mask()); }
 
+  // The common case needs no more than a look at the room; MakeRoom gives the place back so that in a loop the
+  // compiler keeps it in a register.
   template <class... Arguments>
   void Emplace(Arguments&&... arguments)
   {
-    int const length = length_;
-    int const place = (head_ + length) & Mask();
-    // Inside a block there is one already: the common case needs no more than a look at the two counters.
-    if (place != 0 && *counter_ == 1) [[likely]] {
-      Block* const block = slots_[(head_ + length) >> shift_];
-      if (block->counter == 1) [[likely]] {
-        ::new (static_cast<void*>(block->Elements() + place)) T(std::forward<Arguments>(arguments)...);
-        length_ = length + 1;
-        return;
+    T* place = next_;
+    if (place == limit_) [[unlikely]] place = MakeRoom();
+    if constexpr (std::is_nothrow_constructible_v<T, Arguments...>) {
+      ::new (static_cast<void*>(place)) T(std::forward<Arguments>(arguments)...);
+    } else {
+      try {
+        ::new (static_cast<void*>(place)) T(std::forward<Arguments>(arguments)...);
+      } catch (...) {
+        GiveUpRoom();
+        throw;
       }
     }
-    EmplaceSlow(std::forward<Arguments>(arguments)...);
-  }
-
-  // Out of line, or every call of Append would grow by it.
-  template <class... Arguments>
-  [[gnu::noinline]] void EmplaceSlow(Arguments&&... arguments)
-  {
-    CopyArray();
-    if ((head_ + length_) >> shift_ >= slotCount_) Suffix();
-    EmplaceAt(head_ + length_, std::forward<Arguments>(arguments)...);
+    next_ = place + 1;
     ++length_;
   }
+
+  /// Makes the place behind the last element private, and returns it. Out of line, or every call of Append would grow.
+  [[gnu::noinline]] T* MakeRoom()
+  {
+    CopyArray();
+    int const end = head_ + length_;
+    if (!array_ || end >> shift_ >= array_->count) {
+      Suffix();
+      return MakeRoom();
+    }
+    int const slot = end >> shift_;
+    if (Slot(slot)) IsolateBlock(slot);
+    else Slot(slot) = Block::New(Capacity());
+    T* const elements = Slot(slot)->Elements();
+    next_ = elements + (end & Mask());
+    limit_ = elements + Capacity();
+    return next_;
+  }
+
+  /// Frees the block behind the last element if it has been made for an element that could not be constructed.
+  void GiveUpRoom() noexcept
+  {
+    int const end = head_ + length_;
+    if ((end & Mask()) != 0) return;
+    CloseRoom();
+    Block::Free(std::exchange(Slot(end >> shift_), nullptr), Capacity());
+  }
+
+  /// The next Append has to look whether the storage is private.
+  void CloseRoom() const noexcept { next_ = limit_ = nullptr; }
 
   template <class... Arguments>
   void EmplaceFront(Arguments&&... arguments)
@@ -548,24 +601,18 @@ class cow_List
     if (head_ == 0) Prefix();
     // Prefix has moved the head of an empty list away from 0, where an error must leave it.
     int const position = std::exchange(head_, length_ == 0 ? 0 : head_) - 1;
-    EmplaceAt(position, std::forward<Arguments>(arguments)...);
-    head_ = position;
-    ++length_;
-  }
-
-  /// Constructs an element at a position next to the live ones.
-  template <class... Arguments>
-  void EmplaceAt(int position, Arguments&&... arguments)
-  {
     int const slot = position >> shift_;
-    if (slots_[slot]) {
+    if (Slot(slot)) {
       IsolateBlock(slot);
       ::new (static_cast<void*>(Place(position))) T(std::forward<Arguments>(arguments)...);
-      return;
+    } else {
+      NewBlock block(Capacity());
+      T* const place = block.Get()->Elements() + (position & Mask());
+      ::new (static_cast<void*>(place)) T(std::forward<Arguments>(arguments)...);
+      Slot(slot) = block.Release();
     }
-    NewBlock block(Capacity());
-    ::new (static_cast<void*>(block.Get()->Elements() + (position & Mask()))) T(std::forward<Arguments>(arguments)...);
-    slots_[slot] = block.Release();
+    head_ = position;
+    ++length_;
   }
 
   /// A block without elements, freed unless released.
@@ -589,7 +636,7 @@ class cow_List
 
   void IsolateBlock(int slot)
   {
-    if (slots_[slot]->counter > 1) IsolateBlock(slot, head_, head_ + length_);
+    if (Slot(slot)->counter > 1) IsolateBlock(slot, head_, head_ + length_);
   }
 
   /// Replaces a shared block by a private copy of its elements at positions from `first` up to `end`.
@@ -599,16 +646,16 @@ class cow_List
     int const from = std::max(first - start, 0);
     int const to = std::min(end - start, Capacity());
     NewBlock copy(Capacity());
-    std::uninitialized_copy(slots_[slot]->Elements() + from, slots_[slot]->Elements() + to,
+    std::uninitialized_copy(Slot(slot)->Elements() + from, Slot(slot)->Elements() + to,
                             copy.Get()->Elements() + from);
-    --slots_[slot]->counter;
-    slots_[slot] = copy.Release();
+    --Slot(slot)->counter;
+    Slot(slot) = copy.Release();
   }
 
   /// Gives up a block; the last sharer destroys its elements, which are those at positions from `first` up to `end`.
   void DropBlock(int slot, int first, int end) noexcept
   {
-    Block* const block = std::exchange(slots_[slot], nullptr);
+    Block* const block = std::exchange(Slot(slot), nullptr);
     if (--block->counter > 0) return;
     int const start = slot << shift_;
     DestroyReversed(block->Elements() + std::max(first - start, 0),
@@ -625,14 +672,13 @@ class cow_List
 
   void DropShare() noexcept
   {
-    if (!counter_ || --*counter_ > 0) return;
+    if (!array_ || --array_->counter > 0) return;
     if (length_ > 0) {
       for (int slot = (head_ + length_ - 1) >> shift_; slot >= head_ >> shift_; --slot) {
         DropBlock(slot, head_, head_ + length_);
       }
     }
-    mem_Free(slots_);
-    mem_OperatorDelete(counter_, sizeof(int));
+    Array::Free(array_);
   }
 
   /// Drops elements from the end until `length` are left.
@@ -640,17 +686,18 @@ class cow_List
   {
     if (length >= length_) return;
     if (length == 0) return DropAll();
+    CloseRoom();
     CopyArray();
     int const oldEnd = head_ + length_;
     int const end = head_ + length;
     int const boundary = (end - 1) >> shift_;
-    bool const shared = slots_[boundary]->counter > 1;
+    bool const shared = Slot(boundary)->counter > 1;
     if (shared && end < std::min(oldEnd, (boundary + 1) << shift_)) IsolateBlock(boundary, head_, end);
     length_ = length;
     for (int slot = (oldEnd - 1) >> shift_; slot > boundary; --slot) DropBlock(slot, head_, oldEnd);
     if (!shared) {
       int const start = boundary << shift_;
-      DestroyReversed(Place(end - 1) + 1, slots_[boundary]->Elements() + std::min(oldEnd - start, Capacity()));
+      DestroyReversed(Place(end - 1) + 1, Slot(boundary)->Elements() + std::min(oldEnd - start, Capacity()));
     }
   }
 
@@ -664,13 +711,13 @@ class cow_List
     int const head = head_ + count;
     int const end = head_ + length_;
     int const boundary = head >> shift_;
-    bool const shared = slots_[boundary]->counter > 1;
+    bool const shared = Slot(boundary)->counter > 1;
     if (shared && head > std::max(oldHead, boundary << shift_)) IsolateBlock(boundary, head, end);
     head_ = head;
     length_ -= count;
     if (!shared) {
       int const start = boundary << shift_;
-      DestroyReversed(slots_[boundary]->Elements() + std::max(oldHead - start, 0), Place(head));
+      DestroyReversed(Slot(boundary)->Elements() + std::max(oldHead - start, 0), Place(head));
     }
     for (int slot = boundary - 1; slot >= oldHead >> shift_; --slot) DropBlock(slot, oldHead, end);
   }
@@ -678,7 +725,8 @@ class cow_List
   /// Empties the list; its layout stays if the array is its own.
   void DropAll() noexcept
   {
-    if (counter_ && *counter_ == 1) {
+    if (array_ && array_->counter == 1) {
+      CloseRoom();
       int const end = head_ + std::exchange(length_, 0);
       int const head = std::exchange(head_, 0);
       for (int slot = (end - 1) >> shift_; slot >= head >> shift_; --slot) DropBlock(slot, head, end);
@@ -721,6 +769,8 @@ class cow_List
     }
   }
 
+  int SlotCount() const noexcept { return array_ ? array_->count : 0; }
+
   /// The slots in use, first and number.
   int FirstSlot() const noexcept { return head_ >> shift_; }
   int UsedSlots() const noexcept
@@ -733,37 +783,29 @@ class cow_List
   void ReplaceSlots(int count, int front)
   {
     if (count > (INT_MAX >> shift_) + 1) throw std::length_error("cow_List");
-    auto const bytes = static_cast<std::size_t>(count) * sizeof(Block*);
-    std::unique_ptr<void, void (*)(void*)> memory(mem_Malloc(bytes), &mem_Free);
-    if (!memory) throw std::bad_alloc();
-    bool const shared = counter_ && *counter_ > 1;
-    int* const counter = counter_ && !shared ? counter_ : ::new (mem_OperatorNewTinyThrow(sizeof(int))) int(1);
-    std::memset(memory.get(), 0, bytes);
-
-    auto const slots = static_cast<Block**>(memory.release());
+    Array* const array = Array::New(count);
     int const used = UsedSlots();
     int const first = front > 0 ? front : FirstSlot();
-    if (used > 0) std::copy_n(slots_ + FirstSlot(), used, slots + first);
-    if (shared) {
-      for (int slot = first; slot < first + used; ++slot) ++slots[slot]->counter;
-      --*counter_;
+    if (used > 0) std::copy_n(array_->Slots() + FirstSlot(), used, array->Slots() + first);
+    if (array_ && array_->counter > 1) {
+      for (int slot = first; slot < first + used; ++slot) ++array->Slots()[slot]->counter;
+      --array_->counter;
     } else {
-      mem_Free(slots_);
+      Array::Free(array_);
     }
     head_ += (first - FirstSlot()) << shift_;
-    counter_ = counter;
-    slots_ = slots;
-    slotCount_ = count;
+    array_ = array;
   }
 
   /// Moves the used slots of the private array so that `front` free ones stand before them.
   void ShiftSlots(int front) noexcept
   {
+    Block** const slots = array_->Slots();
     int const first = FirstSlot();
     int const used = UsedSlots();
-    if (used > 0) std::memmove(slots_ + front, slots_ + first, static_cast<std::size_t>(used) * sizeof(Block*));
-    std::fill(slots_, slots_ + front, nullptr);
-    std::fill(slots_ + front + used, slots_ + slotCount_, nullptr);
+    if (used > 0) std::memmove(slots + front, slots + first, static_cast<std::size_t>(used) * sizeof(Block*));
+    std::fill(slots, slots + front, nullptr);
+    std::fill(slots + front + used, slots + array_->count, nullptr);
     head_ += (front - first) << shift_;
   }
 
@@ -771,7 +813,7 @@ class cow_List
   void Suffix()
   {
     // A queue, filled at the end and emptied at the front, must not grow for ever.
-    if (FirstSlot() > slotCount_ / 2) ShiftSlots(0);
+    if (FirstSlot() > SlotCount() / 2) ShiftSlots(0);
     else ReplaceSlots(GrownSlots(), 0);
   }
 
@@ -779,22 +821,25 @@ class cow_List
   void Prefix()
   {
     int const used = UsedSlots();
-    if (used >= slotCount_ / 2) ReplaceSlots(GrownSlots(), (GrownSlots() - used + 1) / 2);
-    else ShiftSlots((slotCount_ - used + 1) / 2);
+    if (used >= SlotCount() / 2) ReplaceSlots(GrownSlots(), (GrownSlots() - used + 1) / 2);
+    else ShiftSlots((SlotCount() - used + 1) / 2);
   }
 
   int GrownSlots() const noexcept
   {
     int const most = (INT_MAX >> shift_) + 1;
-    return slotCount_ > most / 2 ? std::max(most, slotCount_ + 1) : std::max(4, 2 * slotCount_);
+    return SlotCount() > most / 2 ? std::max(most, SlotCount() + 1) : std::max(4, 2 * SlotCount());
   }
 
   int length_ = 0;
-  int slotCount_ = 0;
   int shift_ = initialShift;
   int head_ = 0;
-  int* counter_ = nullptr;
-  Block** slots_ = nullptr;
+  Array* array_ = nullptr;
+
+  // Room to append into without a look at the counters: while they differ, the array and the last block are private,
+  // and these are the place behind the last element and the end of that block. A copy closes the room of its source.
+  mutable T* next_ = nullptr;
+  mutable T* limit_ = nullptr;
 };
 
 /// Walk over a list that shares it: what is done to the list meanwhile does not show in the walk.

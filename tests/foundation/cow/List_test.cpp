@@ -184,6 +184,12 @@ TEST(ListTest, FailedCopyLeavesTheContent)
     List empty;
     FailAtEveryCopy([&] { empty.Prepend(x); }, [&] { EXPECT_TRUE(empty.IsEmpty() && empty.begin() == empty.end()); });
     FailAtEveryCopy([&] { List{x, x, x}; }, [] {});
+    // The element would have been the first of its block.
+    for (int const length : {0, 96}) {
+      List full = Ascending(length);
+      FailAtEveryCopy([&] { full.Append(x); }, [&] { ASSERT_EQ(full.Length(), length); });
+      EXPECT_EQ(full.Last().Value(), 7);
+    }
   }
   EXPECT_EQ(Tracked::Alive() + Tracked::faults, 0);
 }
@@ -216,6 +222,23 @@ TEST(ListTest, InitializeLaysOutLargeBlocks)
   list.Initialize(10);
   for (int i = 0; i < 40; ++i) list.Prepend(Tracked(i));
   EXPECT_EQ(list.First().Value(), 39);
+}
+
+TEST(ListTest, EmptiedListTakesElementsAgain)
+{
+  {
+    List list;
+    std::function<void()> const ways[] = {[&] { list.RemoveLast(); }, [&] { list.RemoveFirst(); }, [&] { list.Pop(); },
+                                          [&] { list.Resize(0); }, [&] { list.RemoveMember(Tracked(3)); }};
+    for (auto const& empty : ways) {
+      list.Append(Tracked(3));
+      empty();
+      EXPECT_TRUE(list.IsEmpty());
+    }
+    list.Append(Tracked(4));
+    EXPECT_EQ(list.First().Value(), 4);
+  }
+  EXPECT_EQ(Tracked::Alive() + Tracked::faults, 0);
 }
 
 TEST(ListTest, QueueDoesNotGrow)
