@@ -77,7 +77,7 @@ BENCHMARK(BM_SaveObjects)->Name("goal/save_objects/ours")->RangeMultiplier(8)->R
 BENCHMARK(BM_LoadObjects)->Name("goal/load_objects/ours")->RangeMultiplier(8)->Range(20, 10'240)->Unit(benchmark::kMillisecond);
 
 #define GOAL(function, name) \
-  BENCHMARK(function)->Name("goal/" name)->Iterations(1)->Repetitions(3)->Unit(benchmark::kMillisecond)
+  BENCHMARK(function)->Name("goal/" name)->Iterations(1)->Repetitions(5)->Unit(benchmark::kMillisecond)
 
 GOAL(BM_Save, "save_sqlite/ours");
 GOAL(BM_Save, "save_archive/ours");

@@ -73,7 +73,8 @@ class TVO_API kprC_Propagator {
   void DropState() { running_.state = nullptr; }
   void SaveBase();
   void RestoreBase();
-  void Record(int index, mdl_PropagationStatusEnm status);
+  /// Notes what the quad `old` at `index` is to be, if it is not that already.
+  void Record(Quad const& old, int index, mdl_PropagationStatusEnm status);
 
   /// What the walk asks of each step that depends on its procedure alone; steps in a row mostly share one.
   struct StepKind {

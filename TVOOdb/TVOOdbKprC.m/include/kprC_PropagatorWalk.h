@@ -54,7 +54,7 @@ void kprC_Propagator<Family>::PropagateGenAnalysisObject() {
     }
     // The object stays active beneath the steps that refuse its type, as the next walk will find it.
     deactivationPending = deactivationPending || (refused && !suppressed);
-    Record(index++, status);
+    Record(quad, index++, status);
     if (before && status != STATUS_CREATED) {
       running_ = *before;
     }
@@ -105,7 +105,7 @@ void kprC_Propagator<Family>::PropagatePerturbationObject(int creatingIndex) {
       DropState();
       running_.status = created_ ? STATUS_INSTANCE_INVALID : beforeCreation;
     }
-    Record(index, running_.status);
+    Record(quad, index, running_.status);
     if (before && running_.status != STATUS_CREATED) {
       running_ = *before;
       modal = modalBefore;
@@ -114,8 +114,7 @@ void kprC_Propagator<Family>::PropagatePerturbationObject(int creatingIndex) {
 }
 
 template <class Family>
-void kprC_Propagator<Family>::Record(int index, mdl_PropagationStatusEnm status) {
-  Quad const& old = input_.UncheckedConstGet(index);
+void kprC_Propagator<Family>::Record(Quad const& old, int index, mdl_PropagationStatusEnm status) {
   bool const sameState = !differs_ && cls_Codec<StateHolder>::Equal(old.state, running_.state);
   differs_ = false;
   if (sameState) {

@@ -540,8 +540,12 @@ class cow_List
 
   int Capacity() const noexcept { return 1 << shift_; }
   int Mask() const noexcept { return Capacity() - 1; }
-  Block*& Slot(int slot) const noexcept { return array_->Slots()[slot]; }
-  T* Place(int position) const noexcept { return Slot(position >> shift_)->Elements() + (position & Mask()); }
+  // Behind every access by index.
+  [[gnu::always_inline]] Block*& Slot(int slot) const noexcept { return array_->Slots()[slot]; }
+  [[gnu::always_inline]] T* Place(int position) const noexcept
+  {
+    return Slot(position >> shift_)->Elements() + (position & Mask());
+  }
 
   // The common case needs no more than a look at the room; MakeRoom gives the place back so that in a loop the
   // compiler keeps it in a register.
