@@ -71,6 +71,7 @@ class TVO_API kprC_StepSequencer {
  private:
   template <class Visit>
   void ReadSteps(Visit visit);
+  bool Fits(unsigned int id) const;
   bool AppendIfItFits(unsigned int id);
   bool RestFits(int index, cow_List<unsigned int> const& inPlace) const;
   void CheckIndex(int index) const;

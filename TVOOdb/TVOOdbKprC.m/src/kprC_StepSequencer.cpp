@@ -140,13 +140,19 @@ int kprC_StepSequencer::TestAppendable(unsigned int id, int position) const {
 }
 
 bool kprC_StepSequencer::IsAppendable(unsigned int id) const {
+  bool const fits = Fits(id);
+  cow_List<unsigned int>& answers = fits ? appendable_ : refused_;
+  if (!answers.IsMember(id)) answers.Append(id);
+  return fits;
+}
+
+/// The answer that is kept, or what the rule says now.
+bool kprC_StepSequencer::Fits(unsigned int id) const {
   if (appendable_.IsMember(id)) return true;
   if (refused_.IsMember(id)) return false;
   int const end = sequence_.Length();
   int const answer = TestAppendable(id, end);
-  bool const fits = answer == 1 || (answer == -1 && open_[end - 1].Contains(id));
-  (fits ? appendable_ : refused_).Append(id);
-  return fits;
+  return answer == 1 || (answer == -1 && open_[end - 1].Contains(id));
 }
 
 /// What may follow the first `position` entries as long as no frequency step has been seen. @pre open_ is known so far
@@ -162,7 +168,8 @@ kprC_ProcedureSet kprC_StepSequencer::OpenAt(int position) const {
 void kprC_StepSequencer::Append(unsigned int id) { kprC_Assert(AppendIfItFits(id), 53); }
 
 bool kprC_StepSequencer::AppendIfItFits(unsigned int id) {
-  if (!IsAppendable(id)) return false;
+  // A procedure that fits makes all answers out of date, so that its own is not kept in the first place.
+  if ((id == suppressedEntry || !Fits(id)) && !IsAppendable(id)) return false;
   open_.Append(OpenAt(sequence_.Length()));
   sequence_.Append(id);
   if (id == suppressedEntry) return true;
