@@ -21,10 +21,10 @@ class OldTable {
 
   std::uint32_t Rows() const { return table_->Rows(); }
   bool Has(std::string_view field) const { return table_->FindColumn(field) >= 0; }
-  std::vector<std::uint32_t>& Words(std::string_view field) const {
+  mem_Array<std::uint32_t>& Words(std::string_view field) const {
     return table_->columns[static_cast<std::size_t>(table_->FindColumn(field))].words;
   }
-  std::vector<double>& Doubles(std::string_view field) const {
+  mem_Array<double>& Doubles(std::string_view field) const {
     return table_->columns[static_cast<std::size_t>(table_->FindColumn(field))].doubles;
   }
   std::string Text(std::string_view field, std::uint32_t row) const {
@@ -143,7 +143,7 @@ class OldModel {
     In("kprC_FrequencyStep", [&](OldTable& table) {
       if (revision_ < 1044) table.Drop({"simLinearDynamics"});
       if (revision_ < 1033) {
-        std::vector<std::uint32_t> off(table.Rows());
+        mem_Array<std::uint32_t> off(table.Rows());
         for (std::uint32_t row = 0; row < table.Rows(); ++row) {
           off[row] = table.Text("acousticCoupling", row) == "AC_OFF";
         }

@@ -42,7 +42,7 @@ class OldVersionsTest : public testing::Test {
     ASSERT_EQ(dbc_DatabaseConverter::FirstUnknown(database_), "");
     dbc_DatabaseConverter(database_).Run();
   }
-  std::uint32_t Map(cls_CollectionType kind, std::vector<std::uint32_t> const& words, std::uint32_t count) {
+  std::uint32_t Map(cls_CollectionType kind, mem_Array<std::uint32_t> const& words, std::uint32_t count) {
     database_.collections.push_back({++uid_, kind, static_cast<std::uint32_t>(database_.words.size()), count});
     database_.words.insert(database_.words.end(), words.begin(), words.end());
     return static_cast<std::uint32_t>(database_.collections.size() - 1);
@@ -75,7 +75,7 @@ class OldVersionsTest : public testing::Test {
     repository.Words("nameToID#OID") = {Map(cls_CollectionType::NameToId, {a, 8, b, 9}, 2)};
     repository.Words("IDToObj#OID") = {Map(cls_CollectionType::ObjectMapById, {8, step, 0, 9, step, 1}, 2)};
   }
-  std::vector<std::uint32_t> Targets() {
+  mem_Array<std::uint32_t> Targets() {
     OldTable const repository = Table("mdl_IdRepositoryOfCows<cow_String, kprC_Step>");
     cls_Collection const& map = CollectionOf(repository, "IDToObj#OID", 0);
     auto const first = database_.words.begin() + map.first;
@@ -112,7 +112,7 @@ TEST_F(OldVersionsTest, AFrequencyStepGetsWhatEachRevisionBrought) {
 
     OldTable const now = Table("kprC_FrequencyStep");
     EXPECT_EQ(Version("kprC_FrequencyStep"), 1346);
-    EXPECT_EQ(now.Words("numEigen"), (std::vector<std::uint32_t>{4, 5, 6, 7}));
+    EXPECT_EQ(now.Words("numEigen"), (mem_Array<std::uint32_t>{4, 5, 6, 7}));
     auto const& evaluation = now.Doubles("propertyEvaluationFrequency");
     EXPECT_EQ(evaluation[0], version < 881 ? none : 0.0);
     EXPECT_EQ(evaluation[1], version < 881 ? none : -1.0);
@@ -140,7 +140,7 @@ TEST_F(OldVersionsTest, AFrequencyStepGetsWhatEachRevisionBrought) {
       EXPECT_EQ(CollectionOf(now, "residualModeRegion#OID", 3).kind, cls_CollectionType::StringList);
       EXPECT_EQ(CollectionOf(now, "residualModeRegion#OID", 3).count, 0u);
       EXPECT_EQ(now.Words("limitSavedEigenvectorRegion#ClassID")[3], rgnC_Region::TypeId());
-      EXPECT_EQ(now.Words("limitSavedEigenvectorRegion#OID"), (std::vector<std::uint32_t>{0, 1, 2, 3}));
+      EXPECT_EQ(now.Words("limitSavedEigenvectorRegion#OID"), (mem_Array<std::uint32_t>{0, 1, 2, 3}));
     }
   }
 }
@@ -153,7 +153,7 @@ TEST_F(OldVersionsTest, AStepGetsAnIdAndIsNotSuppressed) {
   EXPECT_EQ(now.Words("stepId")[1], 42u);
   EXPECT_NE(now.Words("stepId")[0], 0u);
   EXPECT_EQ(now.Words("stepId")[2], now.Words("stepId")[0] + 1);
-  EXPECT_EQ(now.Words("suppress"), (std::vector<std::uint32_t>{0, 0, 0}));
+  EXPECT_EQ(now.Words("suppress"), (mem_Array<std::uint32_t>{0, 0, 0}));
 
   std::uint32_t const last = now.Words("stepId")[2];
   database_ = cls_Database();
@@ -228,8 +228,8 @@ TEST_F(OldVersionsTest, AContainerGetsABaseWithoutABase) {
   Lay("kprC_PropagatingContainer<kbcC_BC>", 203, 2, {Attribute("map", Object, cls_CollectionType::ObjectMap)});
   Convert();
   OldTable const now = Table("kprC_PropagatingContainer<kbcC_BC>");
-  EXPECT_EQ(now.Words(cls_BaseClassField), (std::vector<std::uint32_t>{0, 1}));
-  EXPECT_EQ(Table("mdl_Repository").Words(cls_BaseClassField), (std::vector<std::uint32_t>{cls_NoRow, cls_NoRow}));
+  EXPECT_EQ(now.Words(cls_BaseClassField), (mem_Array<std::uint32_t>{0, 1}));
+  EXPECT_EQ(Table("mdl_Repository").Words(cls_BaseClassField), (mem_Array<std::uint32_t>{cls_NoRow, cls_NoRow}));
   EXPECT_TRUE(now.Has("map#OID"));
 
   dbc_DatabaseConverter converter(database_);
@@ -247,10 +247,10 @@ TEST_F(OldVersionsTest, AStepContainerRefersToTheProceduresThatBecameSteps) {
     EXPECT_EQ(Version("kprC_StepContainer"), 831);
     unsigned int const pull = Id("kprC_StaticStep");
     unsigned int const modes = Id("kprC_FrequencyStep");
-    EXPECT_EQ(Targets(), (std::vector<std::uint32_t>{8, pull, 1, 9, modes, 0}));
+    EXPECT_EQ(Targets(), (mem_Array<std::uint32_t>{8, pull, 1, 9, modes, 0}));
     // The reference is turned around: the analysis step is the base of what it held.
-    EXPECT_EQ(Table("kprC_StaticStep").Words(cls_BaseClassField), (std::vector<std::uint32_t>{cls_NoRow, 0}));
-    EXPECT_EQ(Table("kprC_FrequencyStep").Words(cls_BaseClassField), (std::vector<std::uint32_t>{1}));
+    EXPECT_EQ(Table("kprC_StaticStep").Words(cls_BaseClassField), (mem_Array<std::uint32_t>{cls_NoRow, 0}));
+    EXPECT_EQ(Table("kprC_FrequencyStep").Words(cls_BaseClassField), (mem_Array<std::uint32_t>{1}));
     EXPECT_FALSE(Table("kprC_AnalysisStep").Has("procedure#OID"));
     EXPECT_EQ(database_.FindTable(Id("kprC_Static")), nullptr);
     EXPECT_EQ(Version("kprC_FrequencyStep"), 1346) << "the chain of the new class goes on";
@@ -260,7 +260,7 @@ TEST_F(OldVersionsTest, AStepContainerRefersToTheProceduresThatBecameSteps) {
   database_ = cls_Database();
   LayStepContainer(800);
   database_.AddTable(0x220006, "other", 203, 0);
-  std::vector<std::uint32_t> const before = Targets();
+  mem_Array<std::uint32_t> const before = Targets();
   dbc_DatabaseConverter(database_).Run();
   EXPECT_EQ(Targets(), before);
 }
@@ -280,8 +280,8 @@ TEST_F(OldVersionsTest, APairOfStepAndProcedureFindsItsStepByName) {
   EXPECT_EQ(Version("kprC_StepNameProcedurePair"), 831);
   unsigned int const pull = Id("kprC_StaticStep");
   unsigned int const modes = Id("kprC_FrequencyStep");
-  EXPECT_EQ(now.Words("procedure#ClassID"), (std::vector<std::uint32_t>{pull, modes, pull, modes, pull, 0}));
-  EXPECT_EQ(now.Words("procedure#OID"), (std::vector<std::uint32_t>{1, 0, 1, 0, 1, cls_NoRow}));
+  EXPECT_EQ(now.Words("procedure#ClassID"), (mem_Array<std::uint32_t>{pull, modes, pull, modes, pull, 0}));
+  EXPECT_EQ(now.Words("procedure#OID"), (mem_Array<std::uint32_t>{1, 0, 1, 0, 1, cls_NoRow}));
 
   // A small file can hold many pairs and many containers without names: the containers are walked once.
   database_ = cls_Database();
@@ -323,8 +323,8 @@ TEST_F(OldVersionsTest, ARenamedTableGoesByItsChainAndFailsInTheGivenWords) {
   Lay("kprC_AnalysisStep", 831, 2, {}, "kprC_Step");
   Convert();
   EXPECT_EQ(Version("kprC_RandomResponseStep"), 1385);
-  EXPECT_EQ(Table("kprC_RandomResponseStep").Words(cls_BaseClassField), (std::vector<std::uint32_t>{1}));
-  EXPECT_EQ(Table("kprC_StaticStep").Words(cls_BaseClassField), (std::vector<std::uint32_t>{0}));
+  EXPECT_EQ(Table("kprC_RandomResponseStep").Words(cls_BaseClassField), (mem_Array<std::uint32_t>{1}));
+  EXPECT_EQ(Table("kprC_StaticStep").Words(cls_BaseClassField), (mem_Array<std::uint32_t>{0}));
 
   auto const refusal = [&](auto change) -> std::string {
     database_ = cls_Database();

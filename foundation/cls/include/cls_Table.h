@@ -9,6 +9,7 @@
 
 #include "TVOExport.h"
 #include "cls_Types.h"
+#include "mem_Array.h"
 
 /// Row number that means "none".
 inline constexpr std::uint32_t cls_NoRow = 0xffffffffu;
@@ -53,13 +54,13 @@ class TVO_API cls_Column {
   cow_String name;
   cls_CellKind kind;
   unsigned int target;  ///< class that the referred rows derive from (Row, ClassId)
-  std::vector<std::uint32_t> words;
-  std::vector<double> doubles;
+  mem_Array<std::uint32_t> words;
+  mem_Array<double> doubles;
 
  private:
   /// A cell that is not reached yet and would get its default is left to Fill, which takes the memory of all such at once.
   template <class Cell>
-  static void SetIn(std::vector<Cell>& cells, std::uint32_t row, Cell value, Cell unset) {
+  static void SetIn(mem_Array<Cell>& cells, std::uint32_t row, Cell value, Cell unset) {
     if (row < cells.size()) {
       cells[row] = value;
     } else if (!IsSameCell(value, unset)) {
@@ -103,7 +104,7 @@ class TVO_API cls_Table {
   std::vector<cls_DeclaredAttribute> declared;
   std::vector<cls_Column> columns;
   /// Identity of the object whose outermost level the row is; 0 in rows of base levels.
-  std::vector<std::uint64_t> uids;
+  mem_Array<std::uint64_t> uids;
 };
 
 /// A list or map of an attribute: a stretch of the heap that its kind uses.
@@ -158,9 +159,9 @@ class TVO_API cls_Database {
 
   std::vector<std::unique_ptr<cls_Table>> tables;
   std::vector<cow_String> strings{cow_String()};
-  std::vector<cls_Collection> collections;
-  std::vector<std::uint32_t> words;
-  std::vector<double> doubles;
+  mem_Array<cls_Collection> collections;
+  mem_Array<std::uint32_t> words;
+  mem_Array<double> doubles;
   /// The object that holds all others.
   unsigned int rootTypeId = 0;
   std::uint32_t rootRow = cls_NoRow;

@@ -67,7 +67,7 @@ void cls_ReadSession::CheckColumn(cls_Table const& table, std::size_t c) {
       });
       break;
     case cls_CellKind::RowOfClass: {
-      std::vector<std::uint32_t> const& classes = table.columns[c - 1].words;
+      mem_Array<std::uint32_t> const& classes = table.columns[c - 1].words;
       forRows([&](std::uint32_t row, std::uint32_t word) {
         if (word != cls_NoRow) {
           CountReference(classes[row], word, place, row);

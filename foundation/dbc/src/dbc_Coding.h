@@ -27,6 +27,6 @@ inline constexpr cls_CollectionType dbc_CollectionKinds[] = {
 
 /// What a kind's elements have for each of their words: one column.
 struct dbc_Elements {
-  std::vector<std::uint32_t> words[3];
-  std::vector<double> doubles;
+  mem_Array<std::uint32_t> words[3];
+  mem_Array<double> doubles;
 };

@@ -140,7 +140,7 @@ void ForWidth(unsigned int width, Act act) {
   }
 }
 
-void PackAll(std::vector<double> const& cells, dbc_ByteWriter& out) {
+void PackAll(mem_Array<double> const& cells, dbc_ByteWriter& out) {
   std::uint8_t* to = out.Extend(8 * cells.size());
   for (std::size_t i = 0; i < cells.size(); ++i) {
     dbc_StoreLittle(to + 8 * i, std::bit_cast<std::uint64_t>(cells[i]));
@@ -153,7 +153,7 @@ struct Range {
   unsigned int width = sizeof(Cell);
 };
 template <class Cell>
-Range<Cell> RangeOf(std::vector<Cell> const& cells) {
+Range<Cell> RangeOf(mem_Array<Cell> const& cells) {
   Range<Cell> range;
   if constexpr (std::is_integral_v<Cell>) {
     Cell least = cells.empty() ? Cell{0} : cells.front();
@@ -169,7 +169,7 @@ Range<Cell> RangeOf(std::vector<Cell> const& cells) {
 }
 
 template <class Cell>
-void WritePacked(std::vector<Cell> const& cells, Range<Cell> const& range, dbc_ByteWriter& out) {
+void WritePacked(mem_Array<Cell> const& cells, Range<Cell> const& range, dbc_ByteWriter& out) {
   if constexpr (std::is_same_v<Cell, double>) {
     PackAll(cells, out);
   } else {
@@ -182,7 +182,7 @@ void WritePacked(std::vector<Cell> const& cells, Range<Cell> const& range, dbc_B
 }
 
 template <class Cell>
-std::vector<Cell> ReadPacked(dbc_ByteReader& in, std::size_t count) {
+mem_Array<Cell> ReadPacked(dbc_ByteReader& in, std::size_t count) {
   unsigned int width = sizeof(Cell);
   std::uint64_t least = 0;
   if constexpr (std::is_integral_v<Cell>) {
@@ -196,7 +196,7 @@ std::vector<Cell> ReadPacked(dbc_ByteReader& in, std::size_t count) {
     in.Refuse("a column has more cells than bytes");
   }
   std::uint8_t const* const from = in.Take(width * count);
-  std::vector<Cell> cells(count);
+  mem_Array<Cell> cells(count);
   if constexpr (std::is_integral_v<Cell>) {
     ForWidth<Cell>(width, [&](auto constant) {
       Unpack<constant.value>(from, cells.data(), count, static_cast<Cell>(least));
@@ -211,11 +211,11 @@ std::vector<Cell> ReadPacked(dbc_ByteReader& in, std::size_t count) {
 
 /// Reads runs: `fill` sets the cells of one run of that length from its code.
 template <class Cell, class Fill>
-std::vector<Cell> ReadRuns(dbc_ByteReader& in, std::size_t count, Fill fill) {
+mem_Array<Cell> ReadRuns(dbc_ByteReader& in, std::size_t count, Fill fill) {
   if (count / dbc_MaxRun > in.Left() / 2) {
     in.Refuse("a column has more cells than its runs can hold");
   }
-  std::vector<Cell> cells(count);
+  mem_Array<Cell> cells(count);
   for (std::size_t i = 0; i < count;) {
     std::size_t const length = in.Varint();
     if (length == 0 || length > dbc_MaxRun || length > count - i) {
@@ -234,7 +234,7 @@ std::vector<Cell> ReadRuns(dbc_ByteReader& in, std::size_t count, Fill fill) {
 }
 
 template <class Cell>
-std::vector<Cell> ReadValueRuns(dbc_ByteReader& in, std::size_t count) {
+mem_Array<Cell> ReadValueRuns(dbc_ByteReader& in, std::size_t count) {
   using Of = Coding<Cell>;
   typename Of::Bits value = 0;
   return ReadRuns<Cell>(in, count, [&](Cell* to, std::size_t length, typename Of::Bits code) {
@@ -244,7 +244,7 @@ std::vector<Cell> ReadValueRuns(dbc_ByteReader& in, std::size_t count) {
 }
 
 template <class Cell>
-std::vector<Cell> ReadStepRuns(dbc_ByteReader& in, std::size_t count) {
+mem_Array<Cell> ReadStepRuns(dbc_ByteReader& in, std::size_t count) {
   Cell value = 0;
   return ReadRuns<Cell>(in, count, [&](Cell* to, std::size_t length, Cell code) {
     Cell const step = UnZigZag(code);
@@ -258,7 +258,7 @@ std::vector<Cell> ReadStepRuns(dbc_ByteReader& in, std::size_t count) {
 }  // namespace
 
 template <class Cell>
-void dbc_EncodeColumn(std::vector<Cell> const& cells, dbc_ByteWriter& out) {
+void dbc_EncodeColumn(mem_Array<Cell> const& cells, dbc_ByteWriter& out) {
   std::span<Cell const> const all(cells);
   Range<Cell> const range = RangeOf(cells);
   Form form = Form::packed;
@@ -291,7 +291,7 @@ void dbc_EncodeColumn(std::vector<Cell> const& cells, dbc_ByteWriter& out) {
 }
 
 template <class Cell>
-std::vector<Cell> dbc_DecodeColumn(dbc_ByteReader& in, std::size_t count) {
+mem_Array<Cell> dbc_DecodeColumn(dbc_ByteReader& in, std::size_t count) {
   switch (static_cast<Form>(in.Byte())) {
     case Form::packed:
       return ReadPacked<Cell>(in, count);
@@ -306,9 +306,9 @@ std::vector<Cell> dbc_DecodeColumn(dbc_ByteReader& in, std::size_t count) {
   in.Refuse("a column has no known form");
 }
 
-template void dbc_EncodeColumn(std::vector<std::uint32_t> const&, dbc_ByteWriter&);
-template void dbc_EncodeColumn(std::vector<std::uint64_t> const&, dbc_ByteWriter&);
-template void dbc_EncodeColumn(std::vector<double> const&, dbc_ByteWriter&);
-template std::vector<std::uint32_t> dbc_DecodeColumn(dbc_ByteReader&, std::size_t);
-template std::vector<std::uint64_t> dbc_DecodeColumn(dbc_ByteReader&, std::size_t);
-template std::vector<double> dbc_DecodeColumn(dbc_ByteReader&, std::size_t);
+template void dbc_EncodeColumn(mem_Array<std::uint32_t> const&, dbc_ByteWriter&);
+template void dbc_EncodeColumn(mem_Array<std::uint64_t> const&, dbc_ByteWriter&);
+template void dbc_EncodeColumn(mem_Array<double> const&, dbc_ByteWriter&);
+template mem_Array<std::uint32_t> dbc_DecodeColumn(dbc_ByteReader&, std::size_t);
+template mem_Array<std::uint64_t> dbc_DecodeColumn(dbc_ByteReader&, std::size_t);
+template mem_Array<double> dbc_DecodeColumn(dbc_ByteReader&, std::size_t);

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <vector>
-
 #include "dbc_Bytes.h"
+#include "mem_Array.h"
 
 /// A run stands for this many cells at most. So the bytes of a file bound the memory that its columns can ask for:
 /// a run takes two bytes or more, which is 4096 bytes of cells for a byte of the file.
@@ -10,8 +9,8 @@ inline constexpr std::size_t dbc_MaxRun = 1024;
 
 /// Appends a column in the smallest of its forms. Cell is uint32_t, uint64_t or double.
 template <class Cell>
-void dbc_EncodeColumn(std::vector<Cell> const& cells, dbc_ByteWriter& out);
+void dbc_EncodeColumn(mem_Array<Cell> const& cells, dbc_ByteWriter& out);
 
 /// Reads a column of `count` cells. Nothing is allocated that the bytes left in the section do not justify.
 template <class Cell>
-std::vector<Cell> dbc_DecodeColumn(dbc_ByteReader& in, std::size_t count);
+mem_Array<Cell> dbc_DecodeColumn(dbc_ByteReader& in, std::size_t count);

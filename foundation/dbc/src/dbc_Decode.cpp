@@ -140,6 +140,8 @@ void DecodeCollections(dbc_ByteReader& in, cls_Database& database) {
     in.Refuse("the collections have too many elements");
   }
   ElementScatter elements(in, totals);
+  // Not before the columns are read: until then the numbers are only what the file says.
+  database.words.reserve(static_cast<std::size_t>(words));
   database.collections.resize(count);
   for (std::uint32_t i = 0; i < count; ++i) {
     std::size_t const place = KindPlace(kinds[i]);

@@ -69,9 +69,9 @@ dbc_Elements GatherElements(cls_Database const& database, cls_CollectionType kin
 }
 
 std::vector<std::uint8_t> EncodeCollections(cls_Database const& database) {
-  std::vector<std::uint32_t> kinds;
-  std::vector<std::uint32_t> counts;
-  std::vector<std::uint64_t> uids;
+  mem_Array<std::uint32_t> kinds;
+  mem_Array<std::uint32_t> counts;
+  mem_Array<std::uint64_t> uids;
   for (std::size_t i = 0; i < database.collections.size(); ++i) {
     CheckStretch(database, i);
     cls_Collection const& collection = database.collections[i];

@@ -29,6 +29,15 @@ std::size_t largestAllocation = 0;
   throw std::bad_alloc();
 }
 [[gnu::noinline]] void* operator new(std::size_t size, std::nothrow_t const&) noexcept { return std::malloc(size); }
+[[gnu::noinline]] void* operator new(std::size_t size, std::align_val_t alignment) {
+  largestAllocation = std::max(largestAllocation, size);
+  auto const unit = static_cast<std::size_t>(alignment);
+  if (void* const block = std::aligned_alloc(unit, (size + unit - 1) / unit * unit)) {
+    return block;
+  }
+  throw std::bad_alloc();
+}
+[[gnu::noinline]] void operator delete(void* block, std::align_val_t) noexcept { std::free(block); }
 [[gnu::noinline]] void operator delete(void* block) noexcept { std::free(block); }
 [[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept { std::free(block); }
 
@@ -226,7 +235,7 @@ TEST_F(ModelFileTest, RefusesContentThatContradictsItself) {
   auto const refusal = [](cls_Database const& database) {
     return smp_Refusal([&] { dbc_EncodeDatabase(database, 203); });
   };
-  auto const column = [](cls_Database& database, char const* field) -> std::vector<std::uint32_t>& {
+  auto const column = [](cls_Database& database, char const* field) -> mem_Array<std::uint32_t>& {
     cls_Table& table = *database.FindTable(smp_Box::TypeId());
     return table.columns[static_cast<std::size_t>(table.FindColumn(field))].words;
   };

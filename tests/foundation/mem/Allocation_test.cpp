@@ -1,4 +1,5 @@
 #include "mem_Allocation.h"
+#include "mem_Array.h"
 
 #include <gtest/gtest.h>
 
@@ -144,6 +145,26 @@ TEST(AllocationTest, FailureCanBeOrdered)
   auto* const wide = new Wide;
   EXPECT_EQ(reinterpret_cast<std::uintptr_t>(wide) % 64, 0U);
   delete wide;
+}
+
+TEST(AllocationTest, ArraysHoldWhatTheyAreGivenWhereverTheyStand)
+{
+  // Around the sizes at which arrays begin to ask for one large page more.
+  constexpr std::size_t megabyte = std::size_t{1} << 20;
+  for (std::size_t const half : {0, 1, 2, 3, 4, 5}) {
+    for (std::size_t const size : {half * megabyte, half * megabyte + 1}) {
+      auto* const bytes = static_cast<unsigned char*>(mem_NewArray(size));
+      EXPECT_EQ(reinterpret_cast<std::uintptr_t>(bytes) % 16, 0U);
+      std::memset(bytes, 7, size);
+      mem_DeleteArray(bytes, size);
+    }
+  }
+  mem_Array<int> grown;
+  for (int i = 0; i < 1'500'000; ++i) grown.push_back(i);
+  mem_Array<int> const copy = grown;
+  grown.assign(3, 0);
+  grown.shrink_to_fit();
+  for (int i = 0; i < 1'500'000; ++i) ASSERT_EQ(copy[static_cast<std::size_t>(i)], i);
 }
 
 }  // namespace
