@@ -151,7 +151,7 @@ TEST(AllocationTest, ArraysHoldWhatTheyAreGivenWhereverTheyStand)
 {
   // Around the sizes at which arrays begin to ask for one large page more.
   constexpr std::size_t megabyte = std::size_t{1} << 20;
-  for (std::size_t const half : {0, 1, 2, 3, 4, 5}) {
+  for (std::size_t half = 0; half <= 5; ++half) {
     for (std::size_t const size : {half * megabyte, half * megabyte + 1}) {
       auto* const bytes = static_cast<unsigned char*>(mem_NewArray(size));
       EXPECT_EQ(reinterpret_cast<std::uintptr_t>(bytes) % 16, 0U);
