@@ -7,7 +7,7 @@
 
 /// Gives `size` bytes for an array, aligned for any type; goes back by mem_DeleteArray.
 ///
-/// Arrays of more than a megabyte ask the system for large pages: fresh memory that comes in small ones costs a visit to
+/// Arrays above a megabyte ask the system for large pages: fresh memory that comes in small ones costs a visit to
 /// the kernel for each of them, which is half the time that reading a large file into arrays takes.
 /// @throws std::bad_alloc when memory is exhausted.
 TVO_API void* mem_NewArray(std::size_t size);
